@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZELHOST_OPTIONS_H
+#define ZELHOST_OPTIONS_H
+
+#include <QStringList>
+
+#include <optional>
+
+/// What the command line asks for.
+struct Options
+{
+    struct Resolution
+    {
+        double horizontal;
+        double vertical;
+    };
+    struct Font
+    {
+        QString family;
+        double points;
+    };
+
+    QStringList addOnFiles;
+    /// Names of entries, in the order in which to launch them.
+    QStringList launches;
+    bool batch = false;
+    bool reportLeaks = false;
+    std::optional<Resolution> dotsPerInch;
+    std::optional<Font> font;
+    /// Where the pictures go; empty if none are to be drawn.
+    QString pictureDirectory;
+    /// How long one entry may take while pictures are drawn.
+    double timeoutSeconds = 20.0;
+};
+
+enum class CommandLine { Run, Help, Version, Wrong };
+
+/// Reads the command line into `options`; for anything but Run, `text` is what to tell the user. To be called before
+/// there is an application object, whose platform depends on the options.
+CommandLine readCommandLine(const QStringList &arguments, Options &options, QString &text);
+
+#endif

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include <common_ui_qt/mainwindow.h>
+#include <zvsdkdialogs_common_qt/qtdialogabstract.h>
+#include <zvsdkdialogs_prompt_qt/colorchooserdialog.h>
+#include <zvtoolbox/stringlist.h>
+
+#include <QDialogButtonBox>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QTest>
+
+#include <algorithm>
+#include <limits>
+#include <memory>
+
+#include <dlfcn.h>
+
+using orvane::dialogs::common::QtDialogAbstract;
+using orvane::dialogs::prompt::ColorChooserDialog;
+using orvane::toolbox::StringList;
+using orvane::ui::findMainWindow;
+
+namespace {
+
+bool outOfMemory = false;
+
+}
+
+/// Takes the place of the host's function, in the host's libraries too.
+char *ZelUtilStringAlloc(size_t size, const char *label)
+{
+    using Function = char *(*)(size_t, const char *);
+    static const auto original = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "ZelUtilStringAlloc"));
+    return outOfMemory ? nullptr : original(size, label);
+}
+
+class TestHostLibraries : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void stringList();
+    void mainWindowIsFound();
+    void oneDefaultButton();
+    void colorToString_data();
+    void colorToString();
+};
+
+void TestHostLibraries::stringList()
+{
+    StringList_s *handle = ZelUtilStringListAlloc();
+    ZelUtilStringListAppendString(handle, "first");
+    ZelUtilStringListAppendString(handle, "second");
+    const StringList list(handle);
+    QCOMPARE(list.size(), 2);
+    QCOMPARE(list.get(1), std::string("first"));
+    QCOMPARE(list.get(2), std::string("second"));
+    for (const int position : {0, 3, -1, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()})
+        QCOMPARE(list.get(position), std::string());
+    outOfMemory = true;
+    QCOMPARE(list.get(1), std::string());
+    outOfMemory = false;
+
+    const StringList none(nullptr);
+    QCOMPARE(none.size(), 0);
+    QCOMPARE(none.get(1), std::string());
+    ZelUtilStringListDealloc(&handle);
+}
+
+void TestHostLibraries::mainWindowIsFound()
+{
+    QVERIFY(!findMainWindow(true));
+    const QWidget other;
+    QVERIFY(!findMainWindow(false));
+    auto hidden = std::make_unique<QMainWindow>();
+    QCOMPARE(findMainWindow(false), hidden.get());
+    QMainWindow shown;
+    shown.show();
+    QCOMPARE(findMainWindow(false), hidden.get());
+    QCOMPARE(findMainWindow(true), &shown);
+    shown.hide();
+    hidden->show();
+    QCOMPARE(findMainWindow(true), hidden.get());
+    hidden.reset();
+    QCOMPARE(findMainWindow(false), &shown);
+}
+
+void TestHostLibraries::oneDefaultButton()
+{
+    QDialogButtonBox box(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help);
+    QPushButton *ok = box.button(QDialogButtonBox::Ok);
+    QPushButton *cancel = box.button(QDialogButtonBox::Cancel);
+    const auto count = [&box](bool (QPushButton::*isSet)() const) {
+        const auto buttons = box.findChildren<QPushButton *>();
+        return std::count_if(buttons.begin(), buttons.end(),
+                             [isSet](const QPushButton *button) { return (button->*isSet)(); });
+    };
+    ok->setDefault(true);
+    cancel->setAutoDefault(true);
+
+    QtDialogAbstract::setDefaultButton(&box, cancel);
+    QVERIFY(cancel->isDefault());
+    QVERIFY(cancel->autoDefault());
+    QCOMPARE(int(count(&QPushButton::isDefault)), 1);
+    QCOMPARE(int(count(&QPushButton::autoDefault)), 1);
+
+    QtDialogAbstract::setDefaultButton(&box, nullptr);
+    QCOMPARE(int(count(&QPushButton::isDefault)), 0);
+    QCOMPARE(int(count(&QPushButton::autoDefault)), 0);
+
+    QtDialogAbstract::setDefaultButton(nullptr, ok);
+    QVERIFY(ok->isDefault());
+    QtDialogAbstract::setDefaultButton(nullptr, nullptr);
+}
+
+void TestHostLibraries::colorToString_data()
+{
+    QTest::addColumn<int>("color");
+    QTest::addColumn<QByteArray>("longName");
+    QTest::addColumn<QByteArray>("shortName");
+    QTest::newRow("none") << -1 << QByteArray("None") << QByteArray("None");
+    QTest::newRow("first") << 0 << QByteArray("Black") << QByteArray("#000000");
+    QTest::newRow("blue component only") << 12 << QByteArray("Navy") << QByteArray("#000080");
+    QTest::newRow("letters") << 1 << QByteArray("Silver") << QByteArray("#c0c0c0");
+    QTest::newRow("last") << 15 << QByteArray("Aqua") << QByteArray("#00ffff");
+    QTest::newRow("behind the last") << 16 << QByteArray("Unknown") << QByteArray("Unknown");
+}
+
+void TestHostLibraries::colorToString()
+{
+    QFETCH(const int, color);
+    QFETCH(const QByteArray, longName);
+    QFETCH(const QByteArray, shortName);
+    QCOMPARE(ColorChooserDialog::colorToString(color, true), longName.toStdString());
+    QCOMPARE(ColorChooserDialog::colorToString(color, false), shortName.toStdString());
+}
+
+QTEST_MAIN(TestHostLibraries)
+#include "tst_hostlibraries.moc"

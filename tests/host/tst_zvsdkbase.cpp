@@ -1,0 +1,518 @@
+// SPDX-License-Identifier: MIT
+#include <zvsdkbase/hostcontrol.h>
+#include <zvsdkbase/zelutil.h>
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <random>
+#include <set>
+#include <thread>
+
+using namespace orvane::host;
+
+namespace {
+
+using Members = std::vector<LgIndex>;
+
+Unreleased unreleasedOf(const std::string &label)
+{
+    for (const Unreleased &entry : unreleased()) {
+        if (entry.label == label)
+            return entry;
+    }
+    return {label, 0, 0};
+}
+
+Members shuffled(LgIndex count, LgIndex step)
+{
+    Members members;
+    for (LgIndex i = 0; i < count; ++i)
+        members.push_back(1 + i * step);
+    std::shuffle(members.begin(), members.end(), std::mt19937(20));
+    return members;
+}
+
+Members membersOf(IndexSet set)
+{
+    Members members;
+    for (LgIndex member = ZelUtilSetGetNextMember(set, 0); member != 0; member = ZelUtilSetGetNextMember(set, member))
+        members.push_back(member);
+    return members;
+}
+
+/// Calls `act` with the message box that opens during this object's life, and closes it.
+class BoxVisitor
+{
+public:
+    explicit BoxVisitor(std::function<void(QMessageBox *)> act)
+    {
+        m_timer.setInterval(1);
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, act] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box || m_visited)
+                return;
+            m_visited = true;
+            const QPointer<QMessageBox> watched = box;
+            act(box);
+            // A comparison that fails in `act` must not leave the box open.
+            if (watched)
+                watched->close();
+        });
+        m_timer.start();
+    }
+    bool visited() const { return m_visited; }
+
+private:
+    QTimer m_timer;
+    bool m_visited = false;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Members)
+
+class TestZvsdkbase : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void strangePointersAreLeftAlone();
+    void memoryIsZeroed();
+    void absurdSizesGiveNull();
+    void unreleasedIsCountedByLabel();
+    void ledgerServesManyThreads();
+
+    void setHoldsWhatWasAdded_data();
+    void setHoldsWhatWasAdded();
+    void setStartsAnywhere_data();
+    void setStartsAnywhere();
+    void setRefusesWhatIsNoIndex();
+    void setHoldsTheLargestIndex();
+    void setMergesRuns();
+    void setTakesAHundredMillionMembers();
+    void setMayBeStrange();
+
+    void stringListKeepsCopies();
+    void stringListMayBeStrange();
+
+    void basicColor_data();
+    void basicColor();
+
+    void dotsPerInch();
+    void addOnsAreRegisteredInOrder();
+
+    void errorMessageIsPlainText();
+    void errorMessageBelongsToTheModalDialog();
+    void errorMessageSurvivesItsParent_data();
+    void errorMessageSurvivesItsParent();
+    void errorMessageOpensNoDialog_data();
+    void errorMessageOpensNoDialog();
+};
+
+void TestZvsdkbase::cleanup()
+{
+    setBatchModeActive(false);
+    QVERIFY(unreleased().empty());
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void TestZvsdkbase::strangePointersAreLeftAlone()
+{
+    ZelUtilStringDealloc(nullptr);
+    char *null = nullptr;
+    ZelUtilStringDealloc(&null);
+
+    char own[] = "mine";
+    char *foreign = own;
+    ZelUtilStringDealloc(&foreign);
+    QCOMPARE(foreign, own);
+
+    char *string = ZelUtilStringAlloc(4, nullptr);
+    char *again = string;
+    char *inner = string + 1;
+    ZelUtilStringDealloc(&inner);
+    QCOMPARE(unreleased().size(), std::size_t(1));
+    ZelUtilStringDealloc(&string);
+    QVERIFY(!string);
+    ZelUtilStringDealloc(&again);
+
+    IndexSet set = ZelUtilSetAlloc(0);
+    char *notAString = reinterpret_cast<char *>(set);
+    ZelUtilStringDealloc(&notAString);
+    QCOMPARE(ZelUtilSetAddMember(set, 1, 0), ZelBoolean(1));
+    ZelUtilSetDealloc(&set);
+}
+
+void TestZvsdkbase::memoryIsZeroed()
+{
+    char *array = ZelUtilStringAlloc(1000, "array");
+    QVERIFY(std::all_of(array, array + 1000, [](char c) { return c == 0; }));
+    ZelUtilStringDealloc(&array);
+}
+
+void TestZvsdkbase::absurdSizesGiveNull()
+{
+    QVERIFY(!ZelUtilStringAlloc(std::numeric_limits<std::size_t>::max(), "too much"));
+    char *nothing = ZelUtilStringAlloc(0, "nothing");
+    QVERIFY(nothing);
+    ZelUtilStringDealloc(&nothing);
+}
+
+void TestZvsdkbase::unreleasedIsCountedByLabel()
+{
+    char *b1 = ZelUtilStringAlloc(10, "b");
+    char *a = ZelUtilStringAlloc(7, "a");
+    char *b2 = ZelUtilStringAlloc(5, "b");
+    StringList_s *list = ZelUtilStringListAlloc();
+    ZelUtilStringListAppendString(list, "123456789");
+    IndexSet set = ZelUtilSetAlloc(0);
+
+    const std::vector<Unreleased> all = unreleased();
+    QCOMPARE(all.size(), std::size_t(4));
+    QCOMPARE(all[0].label, std::string("a"));
+    QCOMPARE(all[0].bytes, std::size_t(7));
+    QCOMPARE(all[1].label, std::string("b"));
+    QCOMPARE(all[1].count, std::size_t(2));
+    QCOMPARE(all[1].bytes, std::size_t(15));
+    QCOMPARE(all[2].label, std::string("index set"));
+    QCOMPARE(all[3].label, std::string("string list"));
+    QVERIFY(all[3].bytes >= 10);
+
+    ZelUtilStringDealloc(&b1);
+    QCOMPARE(unreleasedOf("b").count, std::size_t(1));
+    QCOMPARE(unreleasedOf("b").bytes, std::size_t(5));
+    ZelUtilStringDealloc(&a);
+    ZelUtilStringDealloc(&b2);
+    ZelUtilStringListDealloc(&list);
+    ZelUtilSetDealloc(&set);
+}
+
+void TestZvsdkbase::ledgerServesManyThreads()
+{
+    const auto work = [] {
+        for (int i = 0; i < 2000; ++i) {
+            char *string = ZelUtilStringAlloc(8, i % 2 ? "odd" : "even");
+            IndexSet set = ZelUtilSetAlloc(0);
+            for (LgIndex member = 1; member < 10; member += 2)
+                ZelUtilSetAddMember(set, member, 0);
+            ZelUtilSetDealloc(&set);
+            ZelUtilStringDealloc(&string);
+        }
+    };
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i)
+        threads.emplace_back(work);
+    for (std::thread &thread : threads)
+        thread.join();
+    QVERIFY(unreleased().empty());
+}
+
+void TestZvsdkbase::setHoldsWhatWasAdded_data()
+{
+    QTest::addColumn<Members>("added");
+    QTest::newRow("nothing") << Members{};
+    QTest::newRow("ascending") << Members{1, 2, 3, 4};
+    QTest::newRow("descending") << Members{9, 8, 7, 6, 3, 2, 1};
+    QTest::newRow("twice") << Members{5, 5, 4, 4, 6, 6, 5};
+    QTest::newRow("gap closed") << Members{1, 2, 4, 5, 3};
+    QTest::newRow("gap grows together from both sides") << Members{1, 9, 2, 8, 3, 7, 4, 6, 5};
+    QTest::newRow("in front of a later run") << Members{1, 10, 20, 19, 9, 18};
+    QTest::newRow("within a run") << Members{1, 2, 3, 4, 5, 10, 3};
+    QTest::newRow("random, dense") << shuffled(20000, 1);
+    QTest::newRow("random, every second") << shuffled(20000, 2);
+    Members mixed = shuffled(30000, 1);
+    mixed.resize(10000);
+    QTest::newRow("random, some") << mixed;
+}
+
+void TestZvsdkbase::setHoldsWhatWasAdded()
+{
+    QFETCH(const Members, added);
+    IndexSet set = ZelUtilSetAlloc(1);
+    for (const LgIndex member : added)
+        QCOMPARE(ZelUtilSetAddMember(set, member, 1), ZelBoolean(1));
+    const std::set<LgIndex> expected(added.begin(), added.end());
+    QCOMPARE(membersOf(set), Members(expected.begin(), expected.end()));
+    ZelUtilSetDealloc(&set);
+    QVERIFY(!set);
+}
+
+void TestZvsdkbase::setStartsAnywhere_data()
+{
+    QTest::addColumn<LgIndex>("after");
+    QTest::addColumn<LgIndex>("next");
+    QTest::newRow("smallest number") << std::numeric_limits<LgIndex>::min() << LgIndex(3);
+    QTest::newRow("negative") << LgIndex(-1) << LgIndex(3);
+    QTest::newRow("before the first") << LgIndex(2) << LgIndex(3);
+    QTest::newRow("within a run") << LgIndex(3) << LgIndex(4);
+    QTest::newRow("end of a run") << LgIndex(5) << LgIndex(8);
+    QTest::newRow("in a gap") << LgIndex(6) << LgIndex(8);
+    QTest::newRow("last") << LgIndex(8) << LgIndex(0);
+    QTest::newRow("behind the last") << LgIndex(100) << LgIndex(0);
+    QTest::newRow("largest number") << std::numeric_limits<LgIndex>::max() << LgIndex(0);
+}
+
+void TestZvsdkbase::setStartsAnywhere()
+{
+    QFETCH(const LgIndex, after);
+    QFETCH(const LgIndex, next);
+    IndexSet set = ZelUtilSetAlloc(0);
+    for (const LgIndex member : {3, 4, 5, 8})
+        ZelUtilSetAddMember(set, member, 0);
+    QCOMPARE(ZelUtilSetGetNextMember(set, after), next);
+    ZelUtilSetDealloc(&set);
+}
+
+void TestZvsdkbase::setRefusesWhatIsNoIndex()
+{
+    IndexSet set = ZelUtilSetAlloc(0);
+    for (const LgIndex member : {LgIndex(0), LgIndex(-1), std::numeric_limits<LgIndex>::min()})
+        QCOMPARE(ZelUtilSetAddMember(set, member, 1), ZelBoolean(0));
+    QCOMPARE(ZelUtilSetGetNextMember(set, 0), LgIndex(0));
+    ZelUtilSetDealloc(&set);
+}
+
+void TestZvsdkbase::setHoldsTheLargestIndex()
+{
+    const LgIndex largest = std::numeric_limits<LgIndex>::max();
+    IndexSet set = ZelUtilSetAlloc(0);
+    for (const LgIndex member : {largest, LgIndex(1), largest - 1, largest})
+        QCOMPARE(ZelUtilSetAddMember(set, member, 0), ZelBoolean(1));
+    QCOMPARE(membersOf(set), (Members{1, largest - 1, largest}));
+    ZelUtilSetDealloc(&set);
+}
+
+void TestZvsdkbase::setMergesRuns()
+{
+    IndexSet set = ZelUtilSetAlloc(0);
+    ZelUtilSetAddMember(set, 1, 0);
+    const std::size_t oneRun = unreleasedOf("index set").bytes;
+    for (LgIndex member = 3; member < 2000; member += 2)
+        ZelUtilSetAddMember(set, member, 0);
+    QVERIFY(unreleasedOf("index set").bytes > 100 * oneRun / 2);
+    for (LgIndex member = 2; member < 2000; member += 2)
+        ZelUtilSetAddMember(set, member, 0);
+    QCOMPARE(unreleasedOf("index set").bytes, oneRun);
+    ZelUtilSetDealloc(&set);
+}
+
+void TestZvsdkbase::setTakesAHundredMillionMembers()
+{
+    const LgIndex count = 100000000;
+    IndexSet set = ZelUtilSetAlloc(0);
+    for (LgIndex member = 1; member <= count; ++member)
+        ZelUtilSetAddMember(set, member, 0);
+    QVERIFY(unreleasedOf("index set").bytes < 1000);
+    QCOMPARE(ZelUtilSetGetNextMember(set, count - 1), count);
+    QCOMPARE(ZelUtilSetGetNextMember(set, count), LgIndex(0));
+    ZelUtilSetDealloc(&set);
+}
+
+void TestZvsdkbase::setMayBeStrange()
+{
+    ZelUtilSetDealloc(nullptr);
+    char *string = ZelUtilStringAlloc(100, "no set");
+    IndexSet released = ZelUtilSetAlloc(0);
+    ZelUtilSetAddMember(released, 1, 0);
+    IndexSet copy = released;
+    ZelUtilSetDealloc(&copy);
+
+    for (IndexSet set : {IndexSet(), reinterpret_cast<IndexSet>(string), released, reinterpret_cast<IndexSet>(1)}) {
+        QCOMPARE(ZelUtilSetAddMember(set, 2, 0), ZelBoolean(0));
+        QCOMPARE(ZelUtilSetGetNextMember(set, 0), LgIndex(0));
+        ZelUtilSetDealloc(&set);
+    }
+    ZelUtilStringDealloc(&string);
+}
+
+void TestZvsdkbase::stringListKeepsCopies()
+{
+    StringList_s *list = ZelUtilStringListAlloc();
+    char text[] = "first";
+    QCOMPARE(ZelUtilStringListAppendString(list, text), ZelBoolean(1));
+    text[0] = 'X';
+    QCOMPARE(ZelUtilStringListAppendString(list, nullptr), ZelBoolean(1));
+    QCOMPARE(ZelUtilStringListGetCount(list), LgIndex(2));
+
+    char *first = ZelUtilStringListGetString(list, 1);
+    char *second = ZelUtilStringListGetString(list, 2);
+    for (const LgIndex position : {LgIndex(0), LgIndex(-1), LgIndex(3), std::numeric_limits<LgIndex>::max()})
+        QVERIFY(!ZelUtilStringListGetString(list, position));
+    ZelUtilStringListDealloc(&list);
+    QVERIFY(!list);
+    QCOMPARE(first, "first");
+    QCOMPARE(second, "");
+    ZelUtilStringDealloc(&first);
+    ZelUtilStringDealloc(&second);
+}
+
+void TestZvsdkbase::stringListMayBeStrange()
+{
+    ZelUtilStringListDealloc(nullptr);
+    StringList_s *released = ZelUtilStringListAlloc();
+    StringList_s *copy = released;
+    ZelUtilStringListDealloc(&copy);
+    for (StringList_s *list : {static_cast<StringList_s *>(nullptr), released}) {
+        QCOMPARE(ZelUtilStringListAppendString(list, "text"), ZelBoolean(0));
+        QCOMPARE(ZelUtilStringListGetCount(list), LgIndex(0));
+        QVERIFY(!ZelUtilStringListGetString(list, 1));
+        ZelUtilStringListDealloc(&list);
+    }
+}
+
+void TestZvsdkbase::basicColor_data()
+{
+    QTest::addColumn<int>("color");
+    QTest::addColumn<QString>("name");
+    // The names are those of the toolkit's own table, so the components don't come from here.
+    const char *const names[] = {"black", "silver", "gray",  "white",  "maroon", "red",  "purple", "fuchsia",
+                                 "green", "lime",   "olive", "yellow", "navy",   "blue", "teal",   "aqua"};
+    int color = 0;
+    for (const char *name : names)
+        QTest::newRow(name) << color++ << QString::fromLatin1(name);
+    QTest::newRow("below the first") << -1 << QStringLiteral("black");
+    QTest::newRow("behind the last") << 16 << QStringLiteral("black");
+    QTest::newRow("far below") << std::numeric_limits<int>::min() << QStringLiteral("black");
+}
+
+void TestZvsdkbase::basicColor()
+{
+    QFETCH(const int, color);
+    QFETCH(const QString, name);
+    unsigned char red = 1;
+    unsigned char green = 1;
+    unsigned char blue = 1;
+    ZelUtilColorMapGetBasicColorRGB(color, &red, &green, &blue);
+    QCOMPARE(QColor(red, green, blue), QColor(name));
+    ZelUtilColorMapGetBasicColorRGB(color, nullptr, nullptr, nullptr);
+}
+
+void TestZvsdkbase::dotsPerInch()
+{
+    double screenHorizontal = 0.0;
+    double screenVertical = 0.0;
+    ZelUtilInterfaceGetDotsPerInch(&screenHorizontal, &screenVertical);
+    QVERIFY(screenHorizontal > 0.0);
+    QVERIFY(screenVertical > 0.0);
+
+    overrideDotsPerInch(120.5, 144.0);
+    double horizontal = 0.0;
+    double vertical = 0.0;
+    ZelUtilInterfaceGetDotsPerInch(&horizontal, nullptr);
+    ZelUtilInterfaceGetDotsPerInch(nullptr, &vertical);
+    QCOMPARE(horizontal, 120.5);
+    QCOMPARE(vertical, 144.0);
+
+    useScreenDotsPerInch();
+    ZelUtilInterfaceGetDotsPerInch(&horizontal, &vertical);
+    QCOMPARE(horizontal, screenHorizontal);
+    QCOMPARE(vertical, screenVertical);
+}
+
+void TestZvsdkbase::addOnsAreRegisteredInOrder()
+{
+    const auto launch = [] {};
+    ZelUtilAddOnRegister("Second by name", "Summary", launch);
+    ZelUtilAddOnRegister("First by name", nullptr, launch);
+    ZelUtilAddOnRegister(nullptr, "No name", launch);
+    ZelUtilAddOnRegister("", "Empty name", launch);
+    ZelUtilAddOnRegister("Nothing to launch", "", nullptr);
+    const std::vector<AddOn> addOns = registeredAddOns();
+    QCOMPARE(addOns.size(), std::size_t(2));
+    QCOMPARE(addOns[0].name, std::string("Second by name"));
+    QCOMPARE(addOns[0].summary, std::string("Summary"));
+    QCOMPARE(addOns[1].name, std::string("First by name"));
+}
+
+void TestZvsdkbase::errorMessageIsPlainText()
+{
+    QMainWindow window;
+    window.show();
+    const BoxVisitor visitor([&window](QMessageBox *box) {
+        QCOMPARE(box->text(), QString::fromUtf8("<b>Größe</b> & more"));
+        QCOMPARE(box->textFormat(), Qt::PlainText);
+        QCOMPARE(box->icon(), QMessageBox::Critical);
+        QCOMPARE(box->windowTitle(), QGuiApplication::applicationDisplayName());
+        QCOMPARE(box->parentWidget(), &window);
+        QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+    });
+    ZelUtilDialogErrMsg("<b>Gr\xC3\xB6\xC3\x9F"
+                        "e</b> & more");
+    QVERIFY(visitor.visited());
+    QVERIFY(window.findChildren<QMessageBox *>().isEmpty());
+}
+
+void TestZvsdkbase::errorMessageBelongsToTheModalDialog()
+{
+    QMainWindow window;
+    window.show();
+    QDialog dialog(&window);
+    dialog.setModal(true);
+    dialog.show();
+    const BoxVisitor visitor([&dialog](QMessageBox *box) { QCOMPARE(box->parentWidget(), &dialog); });
+    ZelUtilDialogErrMsg("On the dialog");
+    QVERIFY(visitor.visited());
+}
+
+void TestZvsdkbase::errorMessageSurvivesItsParent_data()
+{
+    QTest::addColumn<bool>("onDialog");
+    QTest::newRow("main window") << false;
+    QTest::newRow("modal dialog") << true;
+}
+
+void TestZvsdkbase::errorMessageSurvivesItsParent()
+{
+    QFETCH(const bool, onDialog);
+    auto window = std::make_unique<QMainWindow>();
+    window->show();
+    auto *dialog = new QDialog(window.get());
+    dialog->setModal(true);
+    dialog->setVisible(onDialog);
+    const BoxVisitor visitor([&window](QMessageBox *) { window.reset(); });
+    ZelUtilDialogErrMsg("Its window goes");
+    QVERIFY(visitor.visited());
+    QVERIFY(!window);
+}
+
+void TestZvsdkbase::errorMessageOpensNoDialog_data()
+{
+    QTest::addColumn<QByteArray>("message");
+    QTest::addColumn<bool>("batch");
+    QTest::addColumn<bool>("withWindow");
+    QTest::newRow("null") << QByteArray() << false << true;
+    QTest::newRow("empty") << QByteArray("") << false << true;
+    QTest::newRow("batch mode") << QByteArray("Expected line: batch mode") << true << true;
+    QTest::newRow("no main window") << QByteArray("Expected line: no main window") << false << false;
+}
+
+void TestZvsdkbase::errorMessageOpensNoDialog()
+{
+    QFETCH(const QByteArray, message);
+    QFETCH(const bool, batch);
+    QFETCH(const bool, withWindow);
+    std::unique_ptr<QMainWindow> window;
+    if (withWindow)
+        window = std::make_unique<QMainWindow>();
+    setBatchModeActive(batch);
+    QCOMPARE(ZelUtilMacroIsBatchModeActive(), ZelBoolean(batch));
+    const BoxVisitor visitor([](QMessageBox *) {});
+    ZelUtilDialogErrMsg(message.isNull() ? nullptr : message.constData());
+    QVERIFY(!visitor.visited());
+}
+
+QTEST_MAIN(TestZvsdkbase)
+#include "tst_zvsdkbase.moc"
