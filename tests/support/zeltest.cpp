@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "zeltest.h"
+
+#include <zvsdkbase/hostcontrol.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QMetaEnum>
+#include <QMetaProperty>
+#include <QTimer>
+
+#include <array>
+
+namespace Callback {
+
+QStringList &log()
+{
+    static QStringList entries;
+    return entries;
+}
+
+static std::array<std::function<void()>, NameCount> actions;
+
+std::function<void()> &action(Name name)
+{
+    return actions[name];
+}
+
+void note(Name name, const QString &value)
+{
+    const QString text = QString::fromLatin1(QMetaEnum::fromType<Name>().valueToKey(name));
+    log() << (value.isNull() ? text : text + QLatin1Char(' ') + value);
+    // A copy: the action may replace itself.
+    if (const auto act = actions[name])
+        act();
+}
+
+} // namespace Callback
+
+namespace {
+
+QStringList warnings;
+QtMessageHandler previousHandler = nullptr;
+
+void collectWarnings(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    // What the offscreen platform can't do says nothing about us.
+    const bool isOfPlatform = message.startsWith(QLatin1String("This plugin does not support"));
+    if (type == QtWarningMsg || type == QtCriticalMsg) {
+        if (!isOfPlatform)
+            warnings << message;
+        return;
+    }
+    previousHandler(type, context, message);
+}
+
+} // namespace
+
+ZelTest::ZelTest() : m_mainWindow(new QMainWindow)
+{
+    orvane::host::overrideDotsPerInch(96, 96);
+    m_mainWindow->resize(400, 300);
+}
+
+ZelTest::~ZelTest()
+{
+    delete m_mainWindow;
+}
+
+void ZelTest::initTestCase()
+{
+    m_mainWindow->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_mainWindow));
+}
+
+void ZelTest::init()
+{
+    previousHandler = qInstallMessageHandler(collectWarnings);
+    warnings.clear();
+    Callback::log().clear();
+}
+
+void ZelTest::cleanup()
+{
+    qInstallMessageHandler(previousHandler);
+    for (int name = 0; name < Callback::NameCount; ++name)
+        Callback::action(static_cast<Callback::Name>(name)) = nullptr;
+    for (QWidget *const window : QApplication::topLevelWidgets()) {
+        if (window != m_mainWindow)
+            window->hide();
+    }
+    QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join(QLatin1Char('\n'))));
+}
+
+int ZelTest::createModal(int parent)
+{
+    using namespace Callback;
+    return ZelGUIDialogCreateModal(parent, 3000, 1000, "Modal", report<Init>, report<Ok>, report<Apply>, report<Cancel>,
+                                   report<Help>);
+}
+
+int ZelTest::createModeless(int parent)
+{
+    using namespace Callback;
+    return ZelGUIDialogCreateModeless(parent, 3000, 1000, "Modeless", report<Init>, report<Close>, report<Help>);
+}
+
+int ZelTest::launchModeless()
+{
+    const int dialog = createModeless();
+    ZelGUIDialogLaunch(dialog);
+    return dialog;
+}
+
+QAbstractButton *ZelTest::boxButton(QWidget *dialog, const QString &text)
+{
+    const auto buttons = dialog->findChild<QDialogButtonBox *>()->buttons();
+    for (QAbstractButton *const button : buttons) {
+        if (button->text().remove(QLatin1Char('&')) == text)
+            return button;
+    }
+    return nullptr;
+}
+
+void ZelTest::whenModal(int dialogId, std::function<void()> step)
+{
+    auto *const timer = new QTimer(qApp);
+    connect(timer, &QTimer::timeout, qApp, [=] {
+        QWidget *const modal = QApplication::activeModalWidget();
+        if (!modal || modal->objectName() != QString::number(dialogId))
+            return;
+        timer->stop();
+        timer->deleteLater();
+        step();
+    });
+    timer->start(1);
+}
+
+QStringList ZelTest::snapshot() const
+{
+    QStringList state;
+    for (const QObject *const object : m_mainWindow->findChildren<QObject *>()) {
+        const QMetaObject *const meta = object->metaObject();
+        QString line = QString::fromLatin1(meta->className());
+        for (int i = 0; i < meta->propertyCount(); ++i) {
+            QString value;
+            QDebug(&value) << meta->property(i).read(object);
+            line += QLatin1Char(' ') + QString::fromLatin1(meta->property(i).name()) + QLatin1Char('=') + value;
+        }
+        state << line;
+    }
+    return state;
+}

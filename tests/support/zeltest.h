@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#ifndef TESTS_SUPPORT_ZELTEST_H
+#define TESTS_SUPPORT_ZELTEST_H
+
+#include <zelgui/zelgui.h>
+
+#include <QAbstractButton>
+#include <QMainWindow>
+#include <QPointer>
+#include <QTest>
+
+#include <functional>
+#include <memory>
+
+/// What add-on callbacks can be told apart by. They have no user data, so each is a function of its own.
+namespace Callback {
+Q_NAMESPACE
+enum Name { Init, Ok, Apply, Cancel, Close, Help, Extra, Push, OtherPush, Toggle, NameCount };
+Q_ENUM_NS(Name)
+
+/// What the library has reported since the test function began: "Ok", "Toggle 1".
+QStringList &log();
+
+/// What an add-on does inside a callback; cleared after each test function.
+std::function<void()> &action(Name name);
+
+void note(Name name, const QString &value = QString());
+
+template <Name name>
+void report()
+{
+    note(name);
+}
+
+template <Name name>
+void reportInt(const int *value)
+{
+    note(name, QString::number(*value));
+}
+} // namespace Callback
+
+/// A test with a main window around it. Fails if the toolkit warns of anything, and hides what a test left visible.
+class ZelTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    ZelTest();
+    ~ZelTest() override;
+
+    QMainWindow *mainWindow() const { return m_mainWindow; }
+
+    /// The object behind an identifier, found by its object name as any host can.
+    template <typename T>
+    T *object(int id) const
+    {
+        return m_mainWindow->findChild<T *>(QString::number(id));
+    }
+
+    /// A dialog with all callbacks of its kind.
+    static int createModal(int parent = ZELGUI_MAIN_WINDOW);
+    static int createModeless(int parent = ZELGUI_MAIN_WINDOW);
+    /// A visible modeless dialog and its button box's button of that kind.
+    static int launchModeless();
+    static QAbstractButton *boxButton(QWidget *dialog, const QString &text);
+
+    /// Runs `step` when the dialog is the active modal one, inside the loop of its launch.
+    void whenModal(int dialogId, std::function<void()> step);
+
+    /// Every property of every object below the main window.
+    QStringList snapshot() const;
+
+protected Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+private:
+    QPointer<QMainWindow> m_mainWindow;
+};
+
+/// Runs a test with the toolkit's application object, on no display unless the environment names a platform.
+#define ZELTEST_MAIN(Test)                                                                                             \
+    int main(int argc, char **argv)                                                                                    \
+    {                                                                                                                  \
+        QApplication application(argc, argv);                                                                          \
+        Test test;                                                                                                     \
+        return QTest::qExec(&test, argc, argv);                                                                        \
+    }
+
+#endif

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "support/zeltest.h"
+
+#include <QDialog>
+#include <QPushButton>
+
+using namespace Callback;
+
+/// Push buttons and their colours.
+class tst_Button : public ZelTest
+{
+    Q_OBJECT
+
+protected Q_SLOTS:
+    void init();
+
+private Q_SLOTS:
+    void label_data();
+    void label();
+    void height_data();
+    void height();
+    void userActions();
+    void enterPressesOnlyTheDefault();
+    void color_data();
+    void color();
+
+private:
+    int m_dialog = -2;
+};
+
+void tst_Button::init()
+{
+    ZelTest::init();
+    m_dialog = launchModeless();
+    log().clear();
+}
+
+void tst_Button::label_data()
+{
+    QTest::addColumn<QByteArray>("label");
+    QTest::addColumn<QString>("added");
+    QTest::addColumn<QString>("set");
+    QTest::newRow("plain") << QByteArray("OK") << "OK"
+                           << "OK";
+    QTest::newRow("blanks around") << QByteArray("  OK  ") << "OK"
+                                   << "  OK  ";
+    QTest::newRow("blanks inside") << QByteArray("\t\r\n\v\fa  b\n") << "a  b"
+                                   << "\t\r\n\v\fa  b\n";
+    QTest::newRow("white space only") << QByteArray(" \t ") << ""
+                                      << " \t ";
+    QTest::newRow("mnemonic") << QByteArray("Save &As") << "Save &As"
+                              << "Save &As";
+    QTest::newRow("Latin-1") << QByteArray("\xC4ndern") << QString::fromUtf8("\xC3\x84ndern")
+                             << QString::fromUtf8("\xC3\x84ndern");
+}
+
+void tst_Button::label()
+{
+    QFETCH(QByteArray, label);
+    const int id = ZelGUIButtonAdd(m_dialog, 100, 100, 1000, 100, label.constData(), nullptr);
+    QTEST(object<QPushButton>(id)->text(), "added");
+    ZelGUIButtonSetText(id, label.constData());
+    QTEST(object<QPushButton>(id)->text(), "set");
+}
+
+void tst_Button::height_data()
+{
+    QTest::addColumn<int>("height");
+    QTest::addColumn<int>("asToggle");
+    QTest::newRow("a line") << 100 << 110;
+    QTest::newRow("truncated") << 3 << 3;
+    QTest::newRow("largest") << std::numeric_limits<int>::max() << std::numeric_limits<int>::max();
+    QTest::newRow("left to the toolkit") << 0 << 0;
+    QTest::newRow("least") << std::numeric_limits<int>::min() << 0;
+}
+
+void tst_Button::height()
+{
+    QFETCH(int, height);
+    QFETCH(int, asToggle);
+    const int button = ZelGUIButtonAdd(m_dialog, 100, 100, 1000, height, "", nullptr);
+    const int toggle = ZelGUIToggleAdd(m_dialog, 100, 100, 1000, asToggle, "", nullptr);
+    QCOMPARE(object<QWidget>(button)->maximumHeight(), object<QWidget>(toggle)->maximumHeight());
+}
+
+void tst_Button::userActions()
+{
+    const int id = ZelGUIButtonAdd(m_dialog, 100, 100, 1000, 100, "&Push", report<Push>);
+    QPushButton *const button = object<QPushButton>(id);
+    button->show();
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTest::keyClick(button, Qt::Key_Space);
+    QTest::mouseClick(button, Qt::RightButton);
+    QCOMPARE(log(), QStringList({"Push", "Push"}));
+
+    QPushButton *const silent = object<QPushButton>(ZelGUIButtonAdd(m_dialog, 100, 400, 1000, 100, "", nullptr));
+    silent->show();
+    QTest::mouseClick(silent, Qt::LeftButton);
+    QCOMPARE(log().size(), 2);
+}
+
+void tst_Button::enterPressesOnlyTheDefault()
+{
+    const int first = ZelGUIButtonAdd(m_dialog, 100, 100, 1000, 100, "First", report<Push>);
+    const int second = ZelGUIButtonAdd(m_dialog, 100, 300, 1000, 100, "Second", report<OtherPush>);
+    object<QPushButton>(first)->show();
+    object<QPushButton>(second)->show();
+    object<QPushButton>(first)->setFocus();
+    QTest::keyClick(object<QPushButton>(first), Qt::Key_Return);
+    QCOMPARE(log(), QStringList());
+    ZelGUIButtonSetDefault(-5, second);
+    QTest::keyClick(object<QPushButton>(first), Qt::Key_Return);
+    QCOMPARE(log(), QStringList({"OtherPush"}));
+}
+
+void tst_Button::color_data()
+{
+    QTest::addColumn<int>("color");
+    QTest::addColumn<QColor>("expected");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("first") << 0 << QColor(0, 0, 0) << "Black";
+    QTest::newRow("red") << 5 << QColor(255, 0, 0) << "Red";
+    QTest::newRow("last") << 15 << QColor(0, 255, 255) << "Aqua";
+    QTest::newRow("none") << -1 << QColor() << "None";
+}
+
+void tst_Button::color()
+{
+    QFETCH(int, color);
+    QFETCH(QColor, expected);
+    const int id = ZelGUIButtonAdd(m_dialog, 100, 100, 1000, 200, "Text", nullptr);
+    QPushButton *const button = object<QPushButton>(id);
+    const QSize iconSize = button->iconSize();
+    ZelGUIColoredButtonSetColor(id, 2);
+    ZelGUIColoredButtonSetColor(id, color);
+    QTEST(button->text(), "name");
+    QCOMPARE(button->iconSize(), iconSize);
+    QCOMPARE(button->icon().isNull(), !expected.isValid());
+    if (expected.isValid()) {
+        const QSize swatch(iconSize.width(), button->height() * 6 / 10);
+        QCOMPARE(button->icon().availableSizes(), QList<QSize>({swatch}));
+        QCOMPARE(button->icon().pixmap(swatch).toImage().pixelColor(0, 0), expected);
+    }
+}
+
+ZELTEST_MAIN(tst_Button)
+#include "tst_button.moc"

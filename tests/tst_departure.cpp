@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+#include "support/zeltest.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QProcess>
+#include <QPushButton>
+#include <QTimer>
+
+#include <cstdio>
+
+using namespace Callback;
+
+namespace {
+
+/// What goes while the callback is running.
+enum class Victim { MainWindow, ParentDialog, OwnDialog, NestedThenMainWindow };
+
+struct Scene
+{
+    QPointer<QMainWindow> mainWindow;
+    int parent = -2;
+    int dialog = -2;
+    QPointer<QDialog> widget;
+};
+
+/// One way to have a callback called, by what a user does.
+struct Trigger
+{
+    const char *name;
+    Name callback;
+    std::function<void(Scene &)> act;
+};
+
+QList<Trigger> triggers()
+{
+    const auto press = [](const char *text) {
+        return [text](Scene &scene) {
+            QTest::mouseClick(ZelTest::boxButton(scene.widget, QString::fromLatin1(text)), Qt::LeftButton);
+        };
+    };
+    return {
+        {"init", Init, [](Scene &scene) { ZelGUIDialogLaunch(scene.dialog); }},
+        {"OK", Ok, press("OK")},
+        {"Apply", Apply, press("Apply")},
+        {"Cancel", Cancel, press("Cancel")},
+        {"Help", Help, press("Help")},
+        {"extra", Extra,
+         [press](Scene &scene) {
+             ZelGUIDialogAddButtonToButtonBox(scene.dialog, "Extra", 0, report<Extra>);
+             press("Extra")(scene);
+         }},
+        {"Escape", Cancel, [](Scene &scene) { QTest::keyClick(scene.widget, Qt::Key_Escape); }},
+        {"window closed", Cancel, [](Scene &scene) { scene.widget->close(); }},
+        {"push", Push,
+         [](Scene &scene) {
+             ZelGUIButtonAdd(scene.dialog, 100, 100, 1000, 100, "Push", report<Push>);
+             auto *const button = scene.widget->findChildren<QPushButton *>().last();
+             button->show();
+             QTest::mouseClick(button, Qt::LeftButton);
+         }},
+        {"toggle", Toggle,
+         [](Scene &scene) {
+             ZelGUIToggleAdd(scene.dialog, 100, 100, 1000, 100, "Toggle", reportInt<Toggle>);
+             auto *const box = scene.widget->findChild<QCheckBox *>();
+             box->show();
+             QTest::keyClick(box, Qt::Key_Space);
+         }},
+    };
+}
+
+const QList<QPair<const char *, Victim>> kVictims = {{"main window", Victim::MainWindow},
+                                                     {"parent dialog", Victim::ParentDialog},
+                                                     {"own dialog", Victim::OwnDialog},
+                                                     {"main window, in a nested dialog", Victim::NestedThenMainWindow}};
+
+#define REQUIRE(condition)                                                                                             \
+    do {                                                                                                               \
+        if (!(condition)) {                                                                                            \
+            std::fprintf(stderr, "%s:%d: %s\n", __FILE__, __LINE__, #condition);                                       \
+            return 1;                                                                                                  \
+        }                                                                                                              \
+    } while (false)
+
+/// Destroys the victim inside the callback, while the dialog's exec() is running.
+int play(const Trigger &trigger, Victim victim)
+{
+    Scene scene;
+    scene.mainWindow = new QMainWindow;
+    scene.mainWindow->show();
+    scene.parent = ZelTest::createModeless();
+    scene.dialog = ZelTest::createModal(scene.parent);
+    scene.widget = scene.mainWindow->findChild<QDialog *>(QString::number(scene.dialog));
+    QPointer<QDialog> parentWidget = scene.mainWindow->findChild<QDialog *>(QString::number(scene.parent));
+    const int nested =
+        ZelGUIDialogCreateModal(scene.parent, 1000, 1000, "", report<OtherPush>, nullptr, nullptr, nullptr, nullptr);
+
+    bool isDestroyed = false;
+    const auto destroy = [&] {
+        if (victim == Victim::ParentDialog)
+            delete parentWidget;
+        else if (victim == Victim::OwnDialog)
+            delete scene.widget;
+        else
+            delete scene.mainWindow;
+        isDestroyed = true;
+        // All of these identifiers have to answer as destroyed from here on.
+        ZelGUIDialogLaunch(scene.dialog);
+        ZelGUIDialogDrop(scene.dialog);
+        ZelGUIDialogDrop(nested);
+    };
+    action(trigger.callback) = [&] {
+        action(trigger.callback) = nullptr;
+        if (victim != Victim::NestedThenMainWindow) {
+            destroy();
+            return;
+        }
+        QTimer::singleShot(0, qApp, destroy);
+        ZelGUIDialogLaunch(nested);
+    };
+
+    if (trigger.callback == Init) {
+        trigger.act(scene);
+    } else {
+        QTimer::singleShot(0, qApp, [&] { trigger.act(scene); });
+        ZelGUIDialogLaunch(scene.dialog);
+    }
+    REQUIRE(isDestroyed);
+    REQUIRE(ZelGUIDialogIsUp(scene.dialog) == 0);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    REQUIRE(scene.widget.isNull());
+    const bool isNested = victim == Victim::NestedThenMainWindow;
+    const int launches = (trigger.callback == Init ? 0 : 1) + 1 + (isNested ? 1 : 0);
+    REQUIRE(log().size() == launches);
+    REQUIRE(ZelTest::createModal() == (victim == Victim::MainWindow || isNested ? -2 : ZelTest::createModal() - 1));
+    delete scene.mainWindow;
+    return 0;
+}
+
+} // namespace
+
+/// Dialogs that are destroyed while one of their callbacks is running. The toolkit would crash on the way out, and the
+/// end of the main window is the end of the GUI, so each case has a process of its own.
+class tst_Departure : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void destroyedInCallback_data();
+    void destroyedInCallback();
+};
+
+void tst_Departure::destroyedInCallback_data()
+{
+    QTest::addColumn<int>("trigger");
+    QTest::addColumn<int>("victim");
+    const auto all = triggers();
+    for (int trigger = 0; trigger < all.size(); ++trigger) {
+        for (int victim = 0; victim < kVictims.size(); ++victim)
+            QTest::addRow("%s, %s", all[trigger].name, kVictims[victim].first) << trigger << victim;
+    }
+}
+
+void tst_Departure::destroyedInCallback()
+{
+    QFETCH(int, trigger);
+    QFETCH(int, victim);
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), {QString::number(trigger), QString::number(victim)});
+    QVERIFY(process.waitForFinished(60000));
+    QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
+             process.readAllStandardError().constData());
+}
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    bool isCase = false;
+    const int trigger = arguments.size() == 3 ? arguments[1].toInt(&isCase) : 0;
+    if (isCase)
+        return play(triggers().at(trigger), kVictims.at(arguments[2].toInt()).second);
+    tst_Departure test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_departure.moc"

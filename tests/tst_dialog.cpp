@@ -1,0 +1,357 @@
+// SPDX-License-Identifier: MIT
+#include "support/zeltest.h"
+
+#include <zvsdkbase/hostcontrol.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QPushButton>
+
+using namespace Callback;
+
+namespace {
+
+/// Plain texts of the box's buttons, sorted: their order is the platform's.
+QStringList boxTexts(const QDialog *dialog)
+{
+    QStringList texts;
+    for (const QAbstractButton *const button : dialog->findChild<QDialogButtonBox *>()->buttons())
+        texts << button->text().remove(QLatin1Char('&'));
+    texts.sort();
+    return texts;
+}
+
+} // namespace
+
+/// Dialogs: their buttons, how they are shown, and how they go.
+class tst_Dialog : public ZelTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void buttonsFollowCallbacks_data();
+    void buttonsFollowCallbacks();
+    void windowAndTitle();
+    void leavingAsksTheAddOn_data();
+    void leavingAsksTheAddOn();
+    void enterPressesOk();
+    void applyAndHelpDropAtOnce_data();
+    void applyAndHelpDropAtOnce();
+    void extraButtons();
+    void extraButtonAsDefault();
+    void launchOfModelessReturnsAtOnce();
+    void launchInOwnCallback_data();
+    void launchInOwnCallback();
+    void dropInInitIsBeforeTheLaunch();
+    void dropFromNestedModalDialog();
+    void dropAndRelaunchFromNestedModalDialog();
+    void dropOfOuterWaitsForItsOwnCallback();
+    void batchModeStopsLaunches();
+};
+
+void tst_Dialog::buttonsFollowCallbacks_data()
+{
+    QTest::addColumn<int>("id");
+    QTest::addColumn<bool>("modal");
+    QTest::addColumn<QStringList>("buttons");
+    const auto call = report<Ok>;
+    const auto modal = [](ZelGUIVoidCallback ok, ZelGUIVoidCallback apply, ZelGUIVoidCallback cancel,
+                          ZelGUIVoidCallback help) {
+        return ZelGUIDialogCreateModal(ZELGUI_MAIN_WINDOW, 3000, 300, "", nullptr, ok, apply, cancel, help);
+    };
+    const auto modeless = [](ZelGUIVoidCallback close, ZelGUIVoidCallback help) {
+        return ZelGUIDialogCreateModeless(ZELGUI_MAIN_WINDOW, 3000, 300, "", nullptr, close, help);
+    };
+    using Texts = QStringList;
+    QTest::newRow("none") << modal(nullptr, nullptr, nullptr, nullptr) << true << Texts();
+    QTest::newRow("OK, Cancel") << modal(call, nullptr, call, nullptr) << true << Texts({"Cancel", "OK"});
+    QTest::newRow("all") << modal(call, call, call, call) << true << Texts({"Apply", "Cancel", "Help", "OK"});
+    QTest::newRow("modeless") << modeless(call, call) << false << Texts({"Close", "Help"});
+    QTest::newRow("modeless without Close is modal") << modeless(nullptr, call) << true << Texts({"Help"});
+}
+
+void tst_Dialog::buttonsFollowCallbacks()
+{
+    QFETCH(int, id);
+    const QDialog *const dialog = object<QDialog>(id);
+    QTEST(dialog->isModal(), "modal");
+    QTEST(boxTexts(dialog), "buttons");
+    for (const QAbstractButton *const button : dialog->findChild<QDialogButtonBox *>()->buttons()) {
+        QCOMPARE(button->focusPolicy(), Qt::StrongFocus);
+        QVERIFY(!qobject_cast<const QPushButton *>(button)->autoDefault());
+    }
+}
+
+void tst_Dialog::windowAndTitle()
+{
+    const int child = createModeless(createModal());
+    const QDialog *const dialog = object<QDialog>(child);
+    QVERIFY(qobject_cast<QDialog *>(dialog->parent()));
+    QCOMPARE(dialog->windowFlags(),
+             Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    ZelGUIDialogSetTitle(child, "\xEF\xBB\xBF\xC3\x84rger % 5 \xF0\x9F\x98\x80");
+    QCOMPARE(dialog->windowTitle().toUtf8(), QByteArray("\xEF\xBB\xBF\xC3\x84rger % 5 \xF0\x9F\x98\x80"));
+}
+
+void tst_Dialog::leavingAsksTheAddOn_data()
+{
+    QTest::addColumn<bool>("modal");
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<int>("callback");
+    QTest::addColumn<int>("result");
+    const auto row = [](const char *name, bool modal, const char *action, Name callback, int result) {
+        QTest::newRow(name) << modal << QString::fromLatin1(action) << int(callback) << result;
+    };
+    row("OK", true, "OK", Ok, QDialog::Accepted);
+    row("Cancel", true, "Cancel", Cancel, QDialog::Rejected);
+    row("Escape", true, "escape", Cancel, QDialog::Rejected);
+    row("window closed", true, "window", Cancel, QDialog::Rejected);
+    row("modeless, Close", false, "Close", Close, QDialog::Rejected);
+    row("modeless, Escape", false, "escape", Close, QDialog::Rejected);
+    row("modeless, window closed", false, "window", Close, QDialog::Rejected);
+}
+
+void tst_Dialog::leavingAsksTheAddOn()
+{
+    QFETCH(bool, modal);
+    QFETCH(QString, action);
+    QFETCH(int, callback);
+    const int id = modal ? createModal() : createModeless();
+    QDialog *const dialog = object<QDialog>(id);
+    const QString reported = QString::fromLatin1(QMetaEnum::fromType<Name>().valueToKey(callback));
+    const auto leave = [=] {
+        if (action == QLatin1String("escape"))
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        else if (action == QLatin1String("window"))
+            dialog->close();
+        else
+            QTest::mouseClick(boxButton(dialog, action), Qt::LeftButton);
+    };
+    bool stayedUp = false;
+    bool wasUpInCallback = false;
+    const auto useDialog = [&] {
+        leave();
+        stayedUp = ZelGUIDialogIsUp(id);
+        Callback::action(static_cast<Name>(callback)) = [&] {
+            ZelGUIDialogDrop(id);
+            wasUpInCallback = ZelGUIDialogIsUp(id);
+        };
+        leave();
+    };
+    if (modal)
+        whenModal(id, useDialog);
+    ZelGUIDialogLaunch(id);
+    if (!modal) {
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        useDialog();
+    }
+
+    QCOMPARE(log(), QStringList({"Init", reported, reported}));
+    QVERIFY(stayedUp);
+    QVERIFY(wasUpInCallback);
+    QCOMPARE(ZelGUIDialogIsUp(id), 0);
+    QTEST(dialog->result(), "result");
+}
+
+void tst_Dialog::enterPressesOk()
+{
+    const int id = createModal();
+    action(Ok) = [id] { ZelGUIDialogDrop(id); };
+    whenModal(id, [&] { QTest::keyClick(object<QDialog>(id), Qt::Key_Return); });
+    ZelGUIDialogLaunch(id);
+    QCOMPARE(log(), QStringList({"Init", "Ok"}));
+}
+
+void tst_Dialog::applyAndHelpDropAtOnce_data()
+{
+    QTest::addColumn<int>("callback");
+    QTest::newRow("Apply") << int(Apply);
+    QTest::newRow("Help") << int(Help);
+}
+
+void tst_Dialog::applyAndHelpDropAtOnce()
+{
+    QFETCH(int, callback);
+    const int id = createModal();
+    bool wasUpInCallback = true;
+    action(static_cast<Name>(callback)) = [&] {
+        ZelGUIDialogDrop(id);
+        wasUpInCallback = ZelGUIDialogIsUp(id);
+    };
+    whenModal(id, [&] {
+        QTest::mouseClick(boxButton(object<QDialog>(id), QString::fromLatin1(QTest::currentDataTag())), Qt::LeftButton);
+    });
+    ZelGUIDialogLaunch(id);
+    QVERIFY(!wasUpInCallback);
+    QCOMPARE(object<QDialog>(id)->result(), int(QDialog::Accepted));
+    QCOMPARE(log().size(), 2);
+}
+
+void tst_Dialog::extraButtons()
+{
+    const int id = launchModeless();
+    QDialog *const dialog = object<QDialog>(id);
+    const QSize size = dialog->size();
+    ZelGUIDialogAddButtonToButtonBox(id, "First", 0, report<Apply>);
+    ZelGUIDialogAddButtonToButtonBox(id, "R\xE9glage", 2, report<Extra>);
+    ZelGUIDialogAddButtonToButtonBox(createModeless(), "Other", 0, nullptr);
+    QCOMPARE(boxTexts(dialog), QStringList({"Close", "First", "Help", QString::fromUtf8("R\xC3\xA9glage")}));
+    QCOMPARE(dialog->size(), size);
+    auto *const last = qobject_cast<QPushButton *>(boxButton(dialog, QString::fromUtf8("R\xC3\xA9glage")));
+    QVERIFY(!last->isDefault());
+
+    QTest::mouseClick(boxButton(dialog, "First"), Qt::LeftButton);
+    QTest::mouseClick(last, Qt::LeftButton);
+    QCOMPARE(log(), QStringList({"Init", "Extra"}));
+
+    ZelGUIDialogAddButtonToButtonBox(id, "Silent", 0, nullptr);
+    QTest::mouseClick(boxButton(dialog, "Silent"), Qt::LeftButton);
+    QCOMPARE(log().size(), 2);
+}
+
+void tst_Dialog::extraButtonAsDefault()
+{
+    const int id = createModal();
+    ZelGUIDialogAddButtonToButtonBox(id, "Preset", 1, report<Extra>);
+    whenModal(id, [&] {
+        QTest::keyClick(object<QDialog>(id), Qt::Key_Enter);
+        ZelGUIDialogDrop(id);
+    });
+    ZelGUIDialogLaunch(id);
+    QCOMPARE(log(), QStringList({"Init", "Extra"}));
+}
+
+void tst_Dialog::launchOfModelessReturnsAtOnce()
+{
+    const int id = createModeless();
+    action(Init) = [id] { QVERIFY(!ZelGUIDialogIsUp(id)); };
+    ZelGUIDialogLaunch(id);
+    QVERIFY(ZelGUIDialogIsUp(id));
+    action(Init) = nullptr;
+    ZelGUIDialogLaunch(id);
+    QCOMPARE(log(), QStringList({"Init", "Init"}));
+    QTRY_COMPARE(QApplication::activeWindow(), static_cast<QWidget *>(object<QDialog>(id)));
+    ZelGUIDialogDrop(id);
+    ZelGUIDialogDrop(id);
+    QCOMPARE(ZelGUIDialogIsUp(id), 0);
+}
+
+void tst_Dialog::launchInOwnCallback_data()
+{
+    QTest::addColumn<int>("callback");
+    QTest::addColumn<QString>("button");
+    QTest::newRow("deferring") << int(Ok) << "OK";
+    QTest::newRow("not deferring") << int(Apply) << "Apply";
+}
+
+// A second exec() of the same dialog makes the toolkit warn.
+void tst_Dialog::launchInOwnCallback()
+{
+    QFETCH(int, callback);
+    QFETCH(QString, button);
+    const int id = createModal();
+    action(static_cast<Name>(callback)) = [id] { ZelGUIDialogLaunch(id); };
+    bool isUp = false;
+    whenModal(id, [&] {
+        QTest::mouseClick(boxButton(object<QDialog>(id), button), Qt::LeftButton);
+        isUp = ZelGUIDialogIsUp(id);
+        ZelGUIDialogDrop(id);
+    });
+    ZelGUIDialogLaunch(id);
+    QVERIFY(isUp);
+    QCOMPARE(log(), QStringList({"Init", button == QLatin1String("OK") ? "Ok" : "Apply", "Init"}));
+}
+
+void tst_Dialog::dropInInitIsBeforeTheLaunch()
+{
+    const int id = createModeless();
+    action(Init) = [id] { ZelGUIDialogDrop(id); };
+    ZelGUIDialogLaunch(id);
+    QVERIFY(ZelGUIDialogIsUp(id));
+}
+
+void tst_Dialog::dropFromNestedModalDialog()
+{
+    const int outer = createModal();
+    const int inner = createModal(outer);
+    bool outerWasUp = true;
+    action(Apply) = [&] { ZelGUIDialogLaunch(inner); };
+    whenModal(outer, [&] {
+        whenModal(inner, [&] {
+            ZelGUIDialogDrop(outer);
+            outerWasUp = ZelGUIDialogIsUp(outer);
+            ZelGUIDialogDrop(inner);
+        });
+        QTest::mouseClick(boxButton(object<QDialog>(outer), "Apply"), Qt::LeftButton);
+    });
+    ZelGUIDialogLaunch(outer);
+    QVERIFY(!outerWasUp);
+    QCOMPARE(log(), QStringList({"Init", "Apply", "Init"}));
+}
+
+// The outer dialog's exec() has been told to end but can't while the inner one's is running.
+void tst_Dialog::dropAndRelaunchFromNestedModalDialog()
+{
+    const int outer = createModal();
+    const int inner = createModal();
+    QStringList steps;
+    action(Apply) = [&] { ZelGUIDialogLaunch(inner); };
+    whenModal(outer, [&] {
+        whenModal(inner, [&] {
+            ZelGUIDialogDrop(outer);
+            whenModal(outer, [&] {
+                steps << "outer is up again";
+                ZelGUIDialogDrop(outer);
+            });
+            ZelGUIDialogLaunch(outer);
+            steps << "second launch returned";
+            ZelGUIDialogDrop(inner);
+        });
+        QTest::mouseClick(boxButton(object<QDialog>(outer), "Apply"), Qt::LeftButton);
+    });
+    ZelGUIDialogLaunch(outer);
+    steps << "first launch returned";
+    QCOMPARE(steps, QStringList({"outer is up again", "second launch returned", "first launch returned"}));
+}
+
+void tst_Dialog::dropOfOuterWaitsForItsOwnCallback()
+{
+    const int outer = createModal();
+    const int inner = createModal();
+    bool outerWasUp = false;
+    action(Ok) = [&] {
+        action(Ok) = nullptr;
+        ZelGUIDialogLaunch(inner);
+        outerWasUp = ZelGUIDialogIsUp(outer);
+    };
+    whenModal(outer, [&] {
+        whenModal(inner, [&] {
+            ZelGUIDialogDrop(outer);
+            ZelGUIDialogDrop(inner);
+        });
+        QTest::mouseClick(boxButton(object<QDialog>(outer), "OK"), Qt::LeftButton);
+    });
+    ZelGUIDialogLaunch(outer);
+    QVERIFY(outerWasUp);
+    QCOMPARE(ZelGUIDialogIsUp(outer), 0);
+}
+
+void tst_Dialog::batchModeStopsLaunches()
+{
+    const int id = createModeless();
+    orvane::host::setBatchModeActive(true);
+    ZelGUIDialogLaunch(id);
+    const bool wasVisible = object<QDialog>(id)->isVisible();
+    object<QDialog>(id)->show();
+    const ZelBoolean isUpInBatchMode = ZelGUIDialogIsUp(id);
+    orvane::host::setBatchModeActive(false);
+    QVERIFY(!wasVisible);
+    QCOMPARE(isUpInBatchMode, 0);
+    QCOMPARE(log(), QStringList());
+    QCOMPARE(ZelGUIDialogIsUp(id), 1);
+}
+
+ZELTEST_MAIN(tst_Dialog)
+#include "tst_dialog.moc"

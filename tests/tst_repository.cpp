@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "support/zeltest.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+
+using namespace Callback;
+
+/// Identifiers, and what they find.
+class tst_Repository : public ZelTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void identifiersCountUpAcrossKinds();
+    void destroyedObjectsAreNotFound();
+    void callbackMayThrow();
+};
+
+void tst_Repository::identifiersCountUpAcrossKinds()
+{
+    // Without effect, and so without an identifier.
+    QCOMPARE(ZelGUIColoredButtonAdd(0, 1, 1, 100, 100, 1, nullptr), -2);
+    QCOMPARE(ZelGUISidebarRegister("Sidebar", nullptr, nullptr), -2);
+
+    const int dialog = createModal();
+    QCOMPARE(dialog, 0);
+    QCOMPARE(ZelGUIButtonAdd(dialog, 100, 100, 1000, 100, "Button", nullptr), 1);
+    QCOMPARE(ZelGUILabelAdd(dialog, 100, 300, "Label"), 2);
+    QCOMPARE(ZelGUILabelAdd(999, 100, 300, "Nowhere"), -2);
+    QCOMPARE(ZelGUIToggleAdd(dialog, 100, 500, 1000, 100, "Toggle", nullptr), 3);
+    QCOMPARE(createModeless(), 4);
+
+    QVERIFY(object<QDialog>(0));
+    QVERIFY(object<QPushButton>(1));
+    QVERIFY(object<QLabel>(2));
+    QCOMPARE(object<QLabel>(2)->parent(), object<QDialog>(0));
+}
+
+void tst_Repository::destroyedObjectsAreNotFound()
+{
+    const int dialog = createModal();
+    const int toggle = ZelGUIToggleAdd(dialog, 100, 100, 1000, 100, "Toggle", nullptr);
+    ZelGUIToggleSet(toggle, 1);
+    QCOMPARE(ZelGUIToggleGet(toggle), 1);
+    delete object<QDialog>(dialog);
+
+    QCOMPARE(ZelGUIToggleGet(toggle), 0);
+    ZelGUIToggleSet(toggle, 1);
+    ZelGUIDialogLaunch(dialog);
+    QCOMPARE(ZelGUIDialogIsUp(dialog), 0);
+    QCOMPARE(ZelGUILabelAdd(dialog, 100, 100, "Label"), -2);
+    const int next = createModal();
+    QCOMPARE(next, toggle + 1);
+}
+
+void tst_Repository::callbackMayThrow()
+{
+    const int dialog = launchModeless();
+    const int button = ZelGUIButtonAdd(dialog, 100, 100, 1000, 100, "Button", report<Push>);
+    action(Push) = [] { throw std::runtime_error("an add-on's own"); };
+    QPushButton *const widget = object<QPushButton>(button);
+    widget->show();
+    QTest::mouseClick(widget, Qt::LeftButton);
+    QTest::mouseClick(widget, Qt::LeftButton);
+    QCOMPARE(log(), QStringList({"Init", "Push", "Push"}));
+
+    // A drop asked for before the exception still counts.
+    action(Close) = [dialog] {
+        ZelGUIDialogDrop(dialog);
+        throw 1;
+    };
+    QTest::keyClick(object<QDialog>(dialog), Qt::Key_Escape);
+    QCOMPARE(ZelGUIDialogIsUp(dialog), 0);
+}
+
+ZELTEST_MAIN(tst_Repository)
+#include "tst_repository.moc"

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "support/entrypoints.h"
+#include "support/zeltest.h"
+
+#include <QDialog>
+
+#include <limits>
+
+/// Every function with identifiers that it can't use: the neutral answer, and nothing changes.
+class tst_WrongUse : public ZelTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void tableIsComplete();
+    void identifiers_data();
+    void identifiers();
+
+private:
+    QVector<int> m_objects;
+    int m_destroyed = -2;
+};
+
+void tst_WrongUse::initTestCase()
+{
+    ZelTest::initTestCase();
+    const int dialog = createModal();
+    m_objects << dialog;
+    m_objects << ZelGUIButtonAdd(dialog, 100, 100, 1000, 100, "Button", nullptr);
+    m_objects << ZelGUIToggleAdd(dialog, 100, 300, 1000, 100, "Toggle", nullptr);
+    m_objects << ZelGUILabelAdd(dialog, 100, 500, "Label");
+    const int doomed = createModal();
+    m_destroyed = ZelGUIToggleAdd(doomed, 100, 100, 1000, 100, "Destroyed", nullptr);
+    delete object<QDialog>(doomed);
+}
+
+void tst_WrongUse::tableIsComplete()
+{
+    QStringList covered;
+    for (const EntryPoint &entryPoint : entryPoints())
+        covered << QString::fromLatin1(entryPoint.name);
+    covered.sort();
+    QVERIFY(!covered.isEmpty());
+    QCOMPARE(covered, declaredFunctions());
+}
+
+void tst_WrongUse::identifiers_data()
+{
+    QTest::addColumn<int>("index");
+    const auto all = entryPoints();
+    for (int i = 0; i < all.size(); ++i)
+        QTest::newRow(all[i].name) << i;
+}
+
+void tst_WrongUse::identifiers()
+{
+    QFETCH(int, index);
+    const EntryPoint entryPoint = entryPoints().at(index);
+    QVector<int> wrong = {-2, m_destroyed, 1000000, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()};
+    const bool takesMainWindow = QByteArray(entryPoint.name).startsWith("ZelGUIDialogCreate");
+    if (!takesMainWindow)
+        wrong << -1;
+    for (const int id : m_objects) {
+        if (!*entryPoint.accepts || !object<QObject>(id)->inherits(entryPoint.accepts))
+            wrong << id;
+    }
+
+    const QStringList before = snapshot();
+    for (const int id : wrong)
+        QVERIFY2(entryPoint.call(id) == entryPoint.neutral, qPrintable(QString::number(id)));
+    QCOMPARE(snapshot(), before);
+}
+
+ZELTEST_MAIN(tst_WrongUse)
+#include "tst_wronguse.moc"

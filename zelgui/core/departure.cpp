@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "core/departure.h"
+
+#include "core/repository.h"
+
+#include <QDialog>
+#include <QLayout>
+#include <QPointer>
+#include <QWidget>
+
+#include <algorithm>
+#include <vector>
+
+namespace orvane::zelgui {
+
+namespace {
+
+int callbacksInProgress = 0;
+
+/// What is leaving, down from its topmost object. Nearly always empty.
+std::vector<const QObject *> departing;
+
+/// What is to be deleted when the last callback has returned.
+std::vector<QPointer<QWidget>> keptForCallbacks;
+
+void markDeparting(QWidget *window)
+{
+    if (std::find(departing.begin(), departing.end(), window) != departing.end())
+        return;
+    departing.push_back(window);
+    QObject::connect(window, &QObject::destroyed, [window] {
+        departing.erase(std::remove(departing.begin(), departing.end(), window), departing.end());
+    });
+    ZelGUIWidgetRepository::instance()->forget(window);
+}
+
+/// Hides a window and the dialogs inside it; the modal loops of all of them end.
+void hideWithDialogs(QWidget *window)
+{
+    for (QDialog *const dialog : window->findChildren<QDialog *>())
+        dialog->hide();
+    window->hide();
+}
+
+/// Gives what is directly inside a dying window to one that stays until the callbacks have returned.
+void keepContent(QWidget *window)
+{
+    auto *const keeper = new QWidget;
+    markDeparting(keeper);
+    keptForCallbacks.emplace_back(keeper);
+    const QObjectList content = window->children();
+    for (QObject *const object : content) {
+        if (auto *const widget = qobject_cast<QWidget *>(object))
+            widget->setParent(keeper);
+        else if (!qobject_cast<QLayout *>(object))
+            object->setParent(keeper);
+    }
+}
+
+} // namespace
+
+CallbackInProgress::CallbackInProgress()
+{
+    ++callbacksInProgress;
+}
+
+CallbackInProgress::~CallbackInProgress()
+{
+    if (--callbacksInProgress > 0)
+        return;
+    // Not at once: the signal that led to the callback is still being sent.
+    for (const QPointer<QWidget> &widget : keptForCallbacks) {
+        if (widget)
+            widget->deleteLater();
+    }
+    keptForCallbacks.clear();
+}
+
+void outliveParentDuringCallbacks(QWidget *dialog)
+{
+    // A widget sends destroyed() while its children are still there.
+    QObject::connect(dialog->parentWidget(), &QObject::destroyed, dialog, [dialog] {
+        if (callbacksInProgress == 0)
+            return;
+        markDeparting(dialog);
+        hideWithDialogs(dialog);
+        dialog->setParent(nullptr, dialog->windowFlags());
+        keptForCallbacks.emplace_back(dialog);
+    });
+}
+
+void depart(QWidget *dialog)
+{
+    markDeparting(dialog);
+    hideWithDialogs(dialog);
+    if (callbacksInProgress > 0)
+        keepContent(dialog);
+}
+
+bool isDeparting(const QObject *object)
+{
+    if (!ZelGUIWidgetRepository::instance()->isGuiAvailable())
+        return true;
+    if (departing.empty())
+        return false;
+    for (; object; object = object->parent()) {
+        if (std::find(departing.begin(), departing.end(), object) != departing.end())
+            return true;
+    }
+    return false;
+}
+
+} // namespace orvane::zelgui

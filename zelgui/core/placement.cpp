@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "core/placement.h"
+
+#include <zvsdkbase/zelutil.h>
+
+#include <QDialog>
+#include <QFontMetrics>
+#include <QLabel>
+#include <QWidget>
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane::zelgui {
+
+namespace {
+
+/// Beyond these, window systems and the toolkit's own "no limit" value misbehave.
+constexpr double kLargestPixels = 32767;
+constexpr double kLargestDialogPixels = 8192;
+
+/// Horizontal over vertical resolution. A host that reports nonsense gets square pixels.
+double resolutionRatio()
+{
+    double horizontal = 0;
+    double vertical = 0;
+    ZelUtilInterfaceGetDotsPerInch(&horizontal, &vertical);
+    const auto isSensible = [](double resolution) { return std::isfinite(resolution) && resolution > 0; };
+    const double ratio = horizontal / vertical;
+    return isSensible(horizontal) && isSensible(vertical) && isSensible(ratio) ? ratio : 1;
+}
+
+/// Font units to pixels. Multiplications keep their order and 0.499 is added last, so that results agree to the pixel
+/// with dialogs that add-ons have laid out by them.
+class PixelScale
+{
+public:
+    explicit PixelScale(const QWidget *widget)
+        : m_fontHeight(QFontMetrics(widget->font()).height()),
+          m_ratio(resolutionRatio()),
+          m_largest(qobject_cast<const QDialog *>(widget) ? kLargestDialogPixels : kLargestPixels)
+    {}
+
+    int across(int units) const { return toPixels(units / 100.0 * m_fontHeight * m_ratio * 0.45); }
+    int down(int units) const { return toPixels(units / 100.0 * m_fontHeight); }
+
+private:
+    int toPixels(double pixels) const { return static_cast<int>(std::clamp(pixels + 0.499, 0.0, m_largest)); }
+
+    double m_fontHeight;
+    double m_ratio;
+    double m_largest;
+};
+
+} // namespace
+
+void placeWidget(QWidget *widget, int x, int y, int width, int height)
+{
+    const PixelScale scale(widget);
+    if (x > 0 && y > 0)
+        widget->move(scale.across(x), scale.down(y));
+
+    // Fixing both dimensions at once spares the first paint a good part of its time.
+    if (width > 0 && height > 0)
+        widget->setFixedSize(scale.across(width), scale.down(height));
+    else if (width > 0)
+        widget->setFixedWidth(scale.across(width));
+    else if (height > 0)
+        widget->setFixedHeight(scale.down(height));
+
+    if (!qobject_cast<QDialog *>(widget) && !qobject_cast<QLabel *>(widget))
+        widget->setFocusPolicy(Qt::StrongFocus);
+}
+
+} // namespace orvane::zelgui

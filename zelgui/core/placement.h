@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZELGUI_CORE_PLACEMENT_H
+#define ZELGUI_CORE_PLACEMENT_H
+
+class QWidget;
+
+namespace orvane::zelgui {
+
+/// Moves a widget within its parent and fixes its size, all in font units: hundredths of the height of the widget's
+/// font as it is now, across times 0.45 and the ratio of the screen's resolutions. The widget is moved only if both x
+/// and y are positive, and each dimension is fixed only if it is positive. Everything but dialogs and labels can have
+/// the keyboard focus afterwards, by Tab and by click.
+void placeWidget(QWidget *widget, int x, int y, int width, int height);
+
+} // namespace orvane::zelgui
+
+#endif

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZELGUI_CORE_REPOSITORY_H
+#define ZELGUI_CORE_REPOSITORY_H
+
+#include <QObject>
+#include <QPointer>
+
+#include <vector>
+
+namespace orvane::zelgui {
+
+constexpr int kInvalidWidgetId = -2;
+constexpr int kMainWindowParentId = -1;
+
+/// Knows every object that the library has made for add-ons by its identifier, and whether there is a GUI at all.
+///
+/// There is one per process, made by the first call that needs it and never deleted. It owns none of the objects: they
+/// belong to their toolkit parents, and an identifier whose object is gone finds nothing.
+class ZelGUIWidgetRepository : public QObject
+{
+    Q_OBJECT
+
+public:
+    static ZelGUIWidgetRepository *instance();
+
+    /// Decided once, when the repository is made; afterwards a GUI can only be lost.
+    bool isGuiAvailable() const { return m_guiAvailable; }
+    void markGuiUnavailable() { m_guiAvailable = false; }
+
+    /// Registers an object; its identifier also becomes its object name.
+    int addWidget(QObject *object);
+    bool isValidId(int id) const { return id >= 0 && static_cast<std::size_t>(id) < m_objects.size(); }
+    QObject *widget(int id) const { return isValidId(id) ? m_objects[static_cast<std::size_t>(id)].data() : nullptr; }
+    template <typename T>
+    T *widgetAs(int id) const
+    {
+        return dynamic_cast<T *>(widget(id));
+    }
+
+    /// From now on the identifiers of `root` and of everything inside it answer as those of destroyed objects do.
+    void forget(QObject *root);
+
+    bool callbacksSuppressed() const { return m_callbacksSuppressed; }
+    void setCallbacksSuppressed(bool on) { m_callbacksSuppressed = on; }
+
+private Q_SLOTS:
+    void onMainWindowDestroyed();
+
+private:
+    ZelGUIWidgetRepository();
+
+    std::vector<QPointer<QObject>> m_objects;
+    bool m_callbacksSuppressed = false;
+    bool m_guiAvailable = false;
+};
+
+/// While one lives, what the add-on changes itself is not reported back to it.
+///
+/// The flag behind it is a single one, not a counter: the end of an inner suppressor ends the outer one's silence too.
+/// So hold it around the change alone, and around nothing that calls an add-on.
+class CallbackSuppressor
+{
+public:
+    CallbackSuppressor() { ZelGUIWidgetRepository::instance()->setCallbacksSuppressed(true); }
+    ~CallbackSuppressor() { ZelGUIWidgetRepository::instance()->setCallbacksSuppressed(false); }
+    CallbackSuppressor(const CallbackSuppressor &) = delete;
+    CallbackSuppressor &operator=(const CallbackSuppressor &) = delete;
+};
+
+} // namespace orvane::zelgui
+
+#endif

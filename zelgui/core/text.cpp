@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "core/text.h"
+
+#include <zvsdkbase/zelutil.h>
+
+#include <QByteArray>
+#include <QRegularExpression>
+
+#include <boost/algorithm/string/trim.hpp>
+
+#include <cstring>
+#include <string>
+
+namespace orvane::zelgui {
+
+namespace {
+
+/// Longer paddings and more digits than this are an add-on's mistake, and would only cost memory.
+constexpr int kLongestFormatNumber = 1000;
+
+bool isFormatNumberTooLong(const QString &digits)
+{
+    bool isNumber = false;
+    const int number = digits.toInt(&isNumber);
+    return !digits.isEmpty() && (!isNumber || number > kLongestFormatNumber);
+}
+
+/// The format is the add-on's, so whatever might make asprintf read an argument that isn't there has to be kept from
+/// it. 'l' has no effect on a double, 'L' would read a longer one.
+bool isFormatOfOneDouble(const char *format)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral(R"(\A[^%]*+(?:%%[^%]*+)*+%[-+ #0]*+(\d*+)(?:\.(\d*+))?l?[aefgAEFG][^%]*+(?:%%[^%]*+)*+\z)"));
+    // Only ASCII has a meaning here, and Latin-1 keeps every other byte a character of its own.
+    const QRegularExpressionMatch match = pattern.match(fromLatin1(format));
+    return match.hasMatch() && !isFormatNumberTooLong(match.captured(1)) && !isFormatNumberTooLong(match.captured(2));
+}
+
+} // namespace
+
+QString fromLatin1(const char *text)
+{
+    return QString::fromLatin1(text);
+}
+
+QString fromTrimmedLatin1(const char *text)
+{
+    return fromLatin1(boost::algorithm::trim_copy(std::string(text ? text : "")).c_str());
+}
+
+QString fromUtf8(const char *text)
+{
+    static constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
+    // The toolkit takes a mark at the start as a note on the encoding and drops it; to us it is text.
+    int marks = 0;
+    for (; text && std::strncmp(text, kByteOrderMark, 3) == 0; text += 3)
+        ++marks;
+    const QString decoded = QString::fromUtf8(text);
+    return marks == 0 ? decoded : QString(marks, QChar(QChar::ByteOrderMark)) + decoded;
+}
+
+QString formatDouble(const char *format, double value)
+{
+    return format && isFormatOfOneDouble(format) ? QString::asprintf(format, value) : QString();
+}
+
+char *allocHostString(const QString &text)
+{
+    const QByteArray utf8 = text.toUtf8();
+    const auto size = static_cast<std::size_t>(utf8.size()) + 1;
+    char *const copy = ZelUtilStringAlloc(size, "ZelGUITextFieldGetStringQt");
+    if (copy)
+        std::memcpy(copy, utf8.constData(), size);
+    return copy;
+}
+
+} // namespace orvane::zelgui
