@@ -12,7 +12,7 @@
 #include <cmath>
 #include <limits>
 
-/// Where widgets are put and how large they become. Expected pixels are worked out by hand for a font 20 pixels high.
+/// Where widgets are put and how large they become. Expected pixels are worked out by hand for a font 25 pixels high.
 class tst_Placement : public ZelTest
 {
     Q_OBJECT
@@ -45,9 +45,9 @@ void tst_Placement::initTestCase()
 {
     ZelTest::initTestCase();
     QFont font = QApplication::font();
-    for (int size = 8; size < 30 && QFontMetrics(font).height() != 20; ++size)
+    for (int size = 8; size < 40 && QFontMetrics(font).height() != 25; ++size)
         font.setPixelSize(size);
-    QCOMPARE(QFontMetrics(font).height(), 20);
+    QCOMPARE(QFontMetrics(font).height(), 25);
     QApplication::setFont(font);
     m_dialog = createModal();
 }
@@ -65,10 +65,10 @@ void tst_Placement::pixels_data()
     QTest::addColumn<int>("down");
     QTest::newRow("smallest") << 1 << 0 << 0;
     QTest::newRow("rounded up") << 3 << 0 << 1;
-    QTest::newRow("half a pixel rounds down") << 50 << 4 << 10;
-    QTest::newRow("line") << 100 << 9 << 20;
-    QTest::newRow("line and a half") << 150 << 13 << 30;
-    QTest::newRow("wide") << 1000 << 90 << 200;
+    QTest::newRow("half a pixel rounds down") << 50 << 6 << 12;
+    QTest::newRow("line") << 100 << 11 << 25;
+    QTest::newRow("line and a half") << 150 << 17 << 37;
+    QTest::newRow("wide") << 1000 << 112 << 250;
     QTest::newRow("beyond what window systems bear") << std::numeric_limits<int>::max() << 32767 << 32767;
 }
 
@@ -89,11 +89,11 @@ void tst_Placement::zeroKeepsTheToolkitsChoice_data()
     QTest::addColumn<QPoint>("position");
     QTest::addColumn<QSize>("fixed");
     const QSize none(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    QTest::newRow("x is zero") << QRect(0, 50, 100, 100) << QPoint(0, 0) << QSize(9, 20);
-    QTest::newRow("y is negative") << QRect(50, -1, 100, 100) << QPoint(0, 0) << QSize(9, 20);
-    QTest::newRow("no width") << QRect(50, 50, 0, 100) << QPoint(4, 10) << QSize(none.width(), 20);
-    QTest::newRow("negative height") << QRect(50, 50, 100, -7) << QPoint(4, 10) << QSize(9, none.height());
-    QTest::newRow("neither") << QRect(50, 50, 0, 0) << QPoint(4, 10) << none;
+    QTest::newRow("x is zero") << QRect(0, 50, 100, 100) << QPoint(0, 0) << QSize(11, 25);
+    QTest::newRow("y is negative") << QRect(50, -1, 100, 100) << QPoint(0, 0) << QSize(11, 25);
+    QTest::newRow("no width") << QRect(50, 50, 0, 100) << QPoint(6, 12) << QSize(none.width(), 25);
+    QTest::newRow("negative height") << QRect(50, 50, 100, -7) << QPoint(6, 12) << QSize(11, none.height());
+    QTest::newRow("neither") << QRect(50, 50, 0, 0) << QPoint(6, 12) << none;
 }
 
 void tst_Placement::zeroKeepsTheToolkitsChoice()
@@ -110,14 +110,14 @@ void tst_Placement::resolution_data()
     QTest::addColumn<double>("vertical");
     QTest::addColumn<int>("width");
     const double infinity = std::numeric_limits<double>::infinity();
-    QTest::newRow("one and a half") << 144.0 << 96.0 << 135;
-    QTest::newRow("a half") << 48.0 << 96.0 << 45;
-    QTest::newRow("zero") << 96.0 << 0.0 << 90;
-    QTest::newRow("negative") << -96.0 << 96.0 << 90;
-    QTest::newRow("both negative") << -144.0 << -96.0 << 90;
-    QTest::newRow("infinite") << infinity << infinity << 90;
-    QTest::newRow("not a number") << std::nan("") << 96.0 << 90;
-    QTest::newRow("ratio overflows") << 1e300 << 1e-300 << 90;
+    QTest::newRow("one and a half") << 144.0 << 96.0 << 169;
+    QTest::newRow("a half") << 48.0 << 96.0 << 56;
+    QTest::newRow("zero") << 96.0 << 0.0 << 112;
+    QTest::newRow("negative") << -96.0 << 96.0 << 112;
+    QTest::newRow("both negative") << -144.0 << -96.0 << 112;
+    QTest::newRow("infinite") << infinity << infinity << 112;
+    QTest::newRow("not a number") << std::nan("") << 96.0 << 112;
+    QTest::newRow("ratio overflows") << 1e300 << 1e-300 << 112;
 }
 
 void tst_Placement::resolution()
@@ -127,15 +127,15 @@ void tst_Placement::resolution()
     orvane::host::overrideDotsPerInch(horizontal, vertical);
     const QWidget *const widget = toggleAt(1, 1, 1000, 1000);
     QTEST(widget->maximumWidth(), "width");
-    QCOMPARE(widget->maximumHeight(), 200);
+    QCOMPARE(widget->maximumHeight(), 250);
 }
 
 void tst_Placement::dialogFrame_data()
 {
     QTest::addColumn<QSize>("units");
     QTest::addColumn<QSize>("content");
-    QTest::newRow("plain") << QSize(3000, 1000) << QSize(270, 200);
-    QTest::newRow("narrower than its margins") << QSize(100, 100) << QSize(9, 20);
+    QTest::newRow("plain") << QSize(3000, 1000) << QSize(337, 250);
+    QTest::newRow("narrower than its margins") << QSize(100, 100) << QSize(11, 25);
     QTest::newRow("beyond what window systems bear") << QSize(1 << 30, 1 << 30) << QSize(8192, 8192);
 }
 

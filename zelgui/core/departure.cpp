@@ -48,7 +48,7 @@ void keepContent(QWidget *window)
     auto *const keeper = new QWidget;
     markDeparting(keeper);
     keptForCallbacks.emplace_back(keeper);
-    const QObjectList content = window->children();
+    const auto content = window->findChildren<QObject *>(QString(), Qt::FindDirectChildrenOnly);
     for (QObject *const object : content) {
         if (auto *const widget = qobject_cast<QWidget *>(object))
             widget->setParent(keeper);

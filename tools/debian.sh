@@ -1,0 +1,27 @@
+# SPDX-License-Identifier: MIT
+# shellcheck shell=sh
+# Sourced by the commands of the top folder: what a bare Debian 12 lacks gets installed.
+
+# Installs those of the named packages that are missing; as root, or through sudo.
+require_packages() {
+    missing=
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing="$missing $package"
+    done
+    [ -n "$missing" ] || return 0
+    echo "Installing:$missing"
+    as_root=
+    [ "$(id -u)" -eq 0 ] || as_root=sudo
+    $as_root apt-get update -qq
+    # The names have to be split into words.
+    # shellcheck disable=SC2086
+    DEBIAN_FRONTEND=noninteractive $as_root apt-get install -y -qq --no-install-recommends $missing >/dev/null
+}
+
+# What it takes to build, and a font for the pictures.
+# shellcheck disable=SC2034
+build_packages='g++ cmake ninja-build libboost-dev qt6-base-dev fonts-dejavu-core'
+
+# What the tests need besides.
+# shellcheck disable=SC2034
+check_packages='qtbase5-dev pkg-config binutils clang-format clang-tidy shellcheck xvfb openbox xdotool'
