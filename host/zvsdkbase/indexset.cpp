@@ -3,11 +3,16 @@
 #include <zvsdkbase/ledger.h>
 #include <zvsdkbase/zelutil.h>
 
+#include <algorithm>
 #include <iterator>
 #include <map>
 #include <memory>
+#include <new>
 
 using namespace orvane::host;
+
+/// A set with more runs than this, each some fifty bytes, would be a mistake of the user's rather than a use.
+const std::size_t MostRuns = 1U << 24U;
 
 /// Runs of consecutive members, each its first member and its last. Between two runs at least one index is missing.
 struct IndexSet_s
@@ -16,6 +21,22 @@ struct IndexSet_s
 
     /// What the set takes, its nodes estimated as four words (links and balance) beside the run itself.
     std::size_t bytes() const { return sizeof(*this) + runs.size() * (sizeof(*runs.begin()) + 4 * sizeof(void *)); }
+
+    /// Adds the members from `first` to `last`.
+    void addRun(LgIndex first, LgIndex last)
+    {
+        // From the run that this one may continue, to behind the last one that it covers or touches.
+        auto begin = runs.upper_bound(first);
+        if (begin != runs.begin() && std::prev(begin)->second >= first - 1)
+            --begin;
+        auto end = last == INT64_MAX ? runs.end() : runs.upper_bound(last + 1);
+        if (begin != end) {
+            first = std::min(first, begin->first);
+            last = std::max(last, std::prev(end)->second);
+        }
+        end = runs.erase(begin, end);
+        runs.emplace_hint(end, first, last);
+    }
 
     void add(LgIndex member)
     {
@@ -55,6 +76,12 @@ struct IndexSet_s
         runs.emplace_hint(above, member, member);
     }
 
+    LgIndex runEnd(LgIndex member) const
+    {
+        const auto above = runs.upper_bound(member);
+        return above != runs.begin() && std::prev(above)->second >= member ? std::prev(above)->second : 0;
+    }
+
     LgIndex next(LgIndex after) const
     {
         if (after == INT64_MAX)
@@ -82,11 +109,39 @@ ZelBoolean ZelUtilSetAddMember(IndexSet set, LgIndex member, ZelBoolean showErro
         return 0;
     return guarded<ZelBoolean>(0, showErrors, [set, member]() -> ZelBoolean {
         const std::size_t runs = set->runs.size();
+        if (runs >= MostRuns && set->runEnd(member) == 0)
+            throw std::bad_alloc();
         set->add(member);
         if (set->runs.size() != runs)
             Ledger::instance().resize(set, set->bytes());
         return 1;
     });
+}
+
+ZelBoolean ZelUtilSetAddRange(IndexSet set, LgIndex first, LgIndex last, LgIndex step, ZelBoolean showErrors)
+{
+    if (first < 1 || last < first || step < 1 || !Ledger::instance().holds(set, Ledger::Set))
+        return 0;
+    return guarded<ZelBoolean>(0, showErrors, [=]() -> ZelBoolean {
+        const auto newRuns = step == 1 ? 1U : static_cast<std::uint64_t>((last - first) / step) + 1;
+        if (newRuns > MostRuns - std::min(MostRuns, set->runs.size()))
+            throw std::bad_alloc();
+        if (step == 1) {
+            set->addRun(first, last);
+        } else {
+            const LgIndex lastStep = last - (last - first) % step;
+            for (LgIndex member = first; member < lastStep; member += step)
+                set->add(member);
+            set->add(lastStep);
+        }
+        Ledger::instance().resize(set, set->bytes());
+        return 1;
+    });
+}
+
+LgIndex ZelUtilSetGetRunEnd(IndexSet set, LgIndex member)
+{
+    return Ledger::instance().holds(set, Ledger::Set) ? set->runEnd(member) : 0;
 }
 
 LgIndex ZelUtilSetGetNextMember(IndexSet set, LgIndex after)

@@ -76,6 +76,25 @@ ZelBoolean ZelUtilSetAddMember(IndexSet set, LgIndex member, ZelBoolean showErro
 /** The smallest member greater than `after`, where 0 asks for the first; 0 when there are no more. */
 LgIndex ZelUtilSetGetNextMember(IndexSet set, LgIndex after);
 
+/**
+ * Adds first, first + step, first + 2 * step and so on up to last, at the cost of the runs that they make rather than
+ * of the members: a range without gaps is one run, however long. A host need not have this function; without it,
+ * callers add member by member.
+ *
+ * @param first       1 or greater
+ * @param last        first or greater
+ * @param step        1 or greater
+ * @param showErrors  1: tell the user when there is no memory
+ * @return  1 if the set holds all of these members now
+ */
+ZelBoolean ZelUtilSetAddRange(IndexSet set, LgIndex first, LgIndex last, LgIndex step, ZelBoolean showErrors);
+
+/**
+ * The last of the consecutive members that begin with `member`; 0 if that is none itself. A host need not have this
+ * function; without it, callers ask for each member.
+ */
+LgIndex ZelUtilSetGetRunEnd(IndexSet set, LgIndex member);
+
 /** Releases a set and sets *set to NULL. */
 void ZelUtilSetDealloc(IndexSet *set);
 
