@@ -32,7 +32,6 @@ void tst_Button::init()
 {
     ZelTest::init();
     m_dialog = launchModeless();
-    log().clear();
 }
 
 void tst_Button::label_data()

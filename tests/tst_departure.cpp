@@ -2,8 +2,10 @@
 #include "support/zeltest.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
-#include <QCheckBox>
+#include <QButtonGroup>
+#include <QComboBox>
 #include <QDialog>
 #include <QProcess>
 #include <QPushButton>
@@ -34,6 +36,22 @@ struct Trigger
     std::function<void(Scene &)> act;
 };
 
+/// Adds a widget by `add`, shows and focuses it, and does as the user would.
+template <typename Add, typename Act>
+std::function<void(Scene &)> withWidget(Add add, Act act)
+{
+    return [=](Scene &scene) {
+        const int id = add(scene.dialog);
+        auto *const group = scene.widget->findChild<QButtonGroup *>(QString::number(id));
+        QWidget *const widget =
+            group ? group->buttons().last() : scene.widget->findChild<QWidget *>(QString::number(id));
+        widget->show();
+        ZelTest::waitUntilActive(scene.widget);
+        widget->setFocus();
+        act(widget);
+    };
+}
+
 QList<Trigger> triggers()
 {
     const auto press = [](const char *text) {
@@ -41,6 +59,14 @@ QList<Trigger> triggers()
             QTest::mouseClick(ZelTest::boxButton(scene.widget, QString::fromLatin1(text)), Qt::LeftButton);
         };
     };
+    const auto click = [](QWidget *widget) { QTest::mouseClick(widget, Qt::LeftButton); };
+    const auto key = [](Qt::Key which) { return [which](QWidget *widget) { QTest::keyClick(widget, which); }; };
+    const auto addField = [](int dialog) { return ZelGUITextFieldAdd(dialog, 1, 1, 1000, 100, reportText<Text>); };
+    const auto addSpin = [](int dialog) {
+        return ZelGUISpinTextFieldAdd(dialog, 1, 1, 1000, 100, reportText<Text>, report<Up>, report<Down>);
+    };
+    // Rejecting, so that the field goes on with what is left of it.
+    answer(Text) = 0;
     return {
         {"init", Init, [](Scene &scene) { ZelGUIDialogLaunch(scene.dialog); }},
         {"OK", Ok, press("OK")},
@@ -55,19 +81,54 @@ QList<Trigger> triggers()
         {"Escape", Cancel, [](Scene &scene) { QTest::keyClick(scene.widget, Qt::Key_Escape); }},
         {"window closed", Cancel, [](Scene &scene) { scene.widget->close(); }},
         {"push", Push,
-         [](Scene &scene) {
-             ZelGUIButtonAdd(scene.dialog, 100, 100, 1000, 100, "Push", report<Push>);
-             auto *const button = scene.widget->findChildren<QPushButton *>().last();
-             button->show();
-             QTest::mouseClick(button, Qt::LeftButton);
-         }},
+         withWidget([](int dialog) { return ZelGUIButtonAdd(dialog, 1, 1, 1000, 100, "", report<Push>); }, click)},
+        {"bitmap button", Push,
+         withWidget(
+             [](int dialog) {
+                 return ZelGUIBitmapButtonAdd(dialog, 1, 1, 1000, 100, 0, 0, nullptr, 0, 0, 0, 0, report<Push>);
+             },
+             click)},
         {"toggle", Toggle,
-         [](Scene &scene) {
-             ZelGUIToggleAdd(scene.dialog, 100, 100, 1000, 100, "Toggle", reportInt<Toggle>);
-             auto *const box = scene.widget->findChild<QCheckBox *>();
-             box->show();
-             QTest::keyClick(box, Qt::Key_Space);
+         withWidget([](int dialog) { return ZelGUIToggleAdd(dialog, 1, 1, 1000, 100, "", reportInt<Toggle>); },
+                    key(Qt::Key_Space))},
+        {"bitmap toggle", Toggle,
+         withWidget(
+             [](int dialog) {
+                 return ZelGUIBitmapToggleAdd(dialog, 1, 1, 1000, 100, 0, 0, nullptr, 0, 0, 0, 0, reportInt<Toggle>);
+             },
+             click)},
+        {"radio box", Radio,
+         withWidget(
+             [](int dialog) {
+                 return ZelGUIRadioBoxAdd(dialog, 1, 1, 1000, 300, "A", "B", "C", nullptr, nullptr, reportInt<Radio>);
+             },
+             key(Qt::Key_Space))},
+        {"option menu", Option,
+         withWidget([](int dialog) { return ZelGUIOptionMenuAdd(dialog, 1, 1, 1000, 100, "A,B", reportInt<Option>); },
+                    key(Qt::Key_Down))},
+        {"option menu, by its list", Option,
+         withWidget([](int dialog) { return ZelGUIOptionMenuAdd(dialog, 1, 1, 1000, 100, "A,B", reportInt<Option>); },
+                    [](QWidget *menu) {
+                        static_cast<QComboBox *>(menu)->showPopup();
+                        QWidget *const list = static_cast<QComboBox *>(menu)->view();
+                        QTest::keyClick(list, Qt::Key_Down);
+                        QTest::keyClick(list, Qt::Key_Return);
+                    })},
+        {"text field, Return", Text, withWidget(addField, key(Qt::Key_Return))},
+        {"text field, Tab", Text, withWidget(addField, key(Qt::Key_Tab))},
+        {"text field, other clicked", Text,
+         [addField](Scene &scene) {
+             withWidget(addField, [&scene](QWidget *) {
+                 QTest::mouseClick(ZelTest::boxButton(scene.widget, "Help"), Qt::LeftButton);
+             })(scene);
          }},
+        {"spin text field, Return", Text, withWidget(addSpin, key(Qt::Key_Return))},
+        {"spin text field, Tab", Text, withWidget(addSpin, key(Qt::Key_Tab))},
+        {"spin up", Up, withWidget(addSpin, key(Qt::Key_Up))},
+        {"spin down", Down, withWidget(addSpin, key(Qt::Key_Down))},
+        {"multi-line text", Text,
+         withWidget([](int dialog) { return ZelGUITextAdd(dialog, 1, 1, 1000, 300, 0, reportText<Text>); },
+                    key(Qt::Key_A))},
     };
 }
 

@@ -204,11 +204,11 @@ void tst_Dialog::extraButtons()
 
     QTest::mouseClick(boxButton(dialog, "First"), Qt::LeftButton);
     QTest::mouseClick(last, Qt::LeftButton);
-    QCOMPARE(log(), QStringList({"Init", "Extra"}));
+    QCOMPARE(log(), QStringList({"Extra"}));
 
     ZelGUIDialogAddButtonToButtonBox(id, "Silent", 0, nullptr);
     QTest::mouseClick(boxButton(dialog, "Silent"), Qt::LeftButton);
-    QCOMPARE(log().size(), 2);
+    QCOMPARE(log().size(), 1);
 }
 
 void tst_Dialog::extraButtonAsDefault()

@@ -54,7 +54,6 @@ void tst_Toggle::changesInACallback()
     const int other = ZelGUIToggleAdd(dialog, 100, 300, 1500, 100, "Other", nullptr);
     auto *const box = object<QCheckBox>(id);
     box->show();
-    log().clear();
     action(Toggle) = [=] {
         ZelGUIToggleSet(other, 1);
         ZelGUIToggleSet(id, 0);

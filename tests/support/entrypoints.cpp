@@ -27,12 +27,124 @@ auto number(Call call)
 
 const QString kNone = QStringLiteral("-2");
 const QString kFalse = QStringLiteral("0");
+const QString kMinusOne = QStringLiteral("-1");
+const QString kNull = QStringLiteral("null");
+
+/// Wraps a call that answers a text, which has to be released.
+template <typename Call>
+auto text(Call call)
+{
+    return [call](int id) {
+        char *answer = call(id);
+        const QString result = answer ? QString::fromUtf8(answer) : QStringLiteral("null");
+        ZelUtilStringDealloc(&answer);
+        return result;
+    };
+}
+
+/// Wraps a call that answers whether it has written something through its second argument, here 77 before.
+template <typename Value, typename Call>
+auto reader(Call call)
+{
+    return [call](int id) {
+        Value value = 77;
+        const ZelBoolean isRead = call(id, &value);
+        return QStringLiteral("%1 %2").arg(isRead).arg(value);
+    };
+}
+
+QString readSet(int id)
+{
+    IndexSet set = ZelUtilSetAlloc(0);
+    const IndexSet before = set;
+    const ZelBoolean isRead = ZelGUITextFieldGetSet(id, &set);
+    const bool isUntouched = set == before;
+    IndexSet unused = before;
+    ZelUtilSetDealloc(&unused);
+    if (!isUntouched)
+        ZelUtilSetDealloc(&set);
+    return QStringLiteral("%1 %2").arg(isRead).arg(isUntouched ? "untouched" : "new");
+}
 
 } // namespace
 
 QVector<EntryPoint> entryPoints()
 {
     return {
+        {"ZelGUIBitmapButtonAdd", "QWidget",
+         number([](int id) { return ZelGUIBitmapButtonAdd(id, 1, 1, 1, 1, 8, 8, nullptr, 1, 0, 0, 0, nullptr); }),
+         kNone},
+        {"ZelGUIBitmapToggleAdd", "QWidget",
+         number([](int id) { return ZelGUIBitmapToggleAdd(id, 1, 1, 1, 1, -8, 8, nullptr, 1, 0, 0, 0, nullptr); }),
+         kNone},
+        {"ZelGUIOptionMenuAdd", "QWidget",
+         number([](int id) { return ZelGUIOptionMenuAdd(id, 1, 1, 1, 1, nullptr, nullptr); }), kNone},
+        {"ZelGUIOptionMenuAppendItem",
+         "QComboBox",
+         silent([](int id) { ZelGUIOptionMenuAppendItem(id, nullptr); }),
+         {}},
+        {"ZelGUIOptionMenuDeleteAllItems", "QComboBox", silent([](int id) { ZelGUIOptionMenuDeleteAllItems(id); }), {}},
+        {"ZelGUIOptionMenuDeleteItemAtPos",
+         "QComboBox",
+         silent([](int id) { ZelGUIOptionMenuDeleteItemAtPos(id, 1); }),
+         {}},
+        {"ZelGUIOptionMenuGet", "QComboBox", number([](int id) { return ZelGUIOptionMenuGet(id); }), kMinusOne},
+        {"ZelGUIOptionMenuGetItemCount", "QComboBox", number([](int id) { return ZelGUIOptionMenuGetItemCount(id); }),
+         kMinusOne},
+        {"ZelGUIOptionMenuGetString", "QComboBox", text([](int id) { return ZelGUIOptionMenuGetString(id, 1); }),
+         kNull},
+        {"ZelGUIOptionMenuSet", "QComboBox", silent([](int id) { ZelGUIOptionMenuSet(id, 0); }), {}},
+        {"ZelGUIOptionMenuSetByString", "QComboBox",
+         number([](int id) { return ZelGUIOptionMenuSetByString(id, nullptr); }), kMinusOne},
+        {"ZelGUIRadioBoxAdd", "QWidget", number([](int id) {
+             return ZelGUIRadioBoxAdd(id, 1, 1, 1, 1, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
+         }),
+         kNone},
+        {"ZelGUIRadioBoxGetToggle", "QButtonGroup", number([](int id) { return ZelGUIRadioBoxGetToggle(id); }),
+         kMinusOne},
+        {"ZelGUIRadioBoxSetToggle", "QButtonGroup", silent([](int id) { ZelGUIRadioBoxSetToggle(id, 2); }), {}},
+        {"ZelGUISpinTextFieldAdd", "QWidget",
+         number([](int id) { return ZelGUISpinTextFieldAdd(id, 1, 1, 1, 1, nullptr, nullptr, nullptr); }), kNone},
+        {"ZelGUISpinTextFieldIncDouble", "QAbstractSpinBox",
+         number([](int id) { return ZelGUISpinTextFieldIncDouble(id, nullptr, 1, 0, 9); }), kFalse},
+        {"ZelGUISpinTextFieldIncLgIndex", "QAbstractSpinBox",
+         number([](int id) { return ZelGUISpinTextFieldIncLgIndex(id, 1, 0, 9); }), kFalse},
+        {"ZelGUITextAdd", "QWidget", number([](int id) { return ZelGUITextAdd(id, 1, 1, 1, 1, 0, nullptr); }), kNone},
+        {"ZelGUITextAllowWordWrap", "QPlainTextEdit", silent([](int id) { ZelGUITextAllowWordWrap(id, 0); }), {}},
+        {"ZelGUITextAppendString", "QPlainTextEdit", silent([](int id) { ZelGUITextAppendString(id, nullptr); }), {}},
+        {"ZelGUITextGetString", "QPlainTextEdit", text([](int id) { return ZelGUITextGetString(id); }), kNull},
+        {"ZelGUITextSetString", "QPlainTextEdit", silent([](int id) { ZelGUITextSetString(id, nullptr); }), {}},
+        {"ZelGUITextUseFixedPitchFont",
+         "QPlainTextEdit",
+         silent([](int id) { ZelGUITextUseFixedPitchFont(id, 1); }),
+         {}},
+        // 0, not -2, without a GUI.
+        {"ZelGUITextFieldAdd", "QWidget", number([](int id) { return ZelGUITextFieldAdd(id, 1, 1, 1, 1, nullptr); }),
+         kNone, kFalse},
+        {"ZelGUITextFieldGetDouble", "QLineEdit,QAbstractSpinBox", reader<double>(ZelGUITextFieldGetDouble),
+         QStringLiteral("0 77")},
+        {"ZelGUITextFieldGetLgIndex", "QLineEdit,QAbstractSpinBox", reader<LgIndex>(ZelGUITextFieldGetLgIndex),
+         QStringLiteral("0 77")},
+        {"ZelGUITextFieldGetSet", "QLineEdit", readSet, QStringLiteral("0 untouched")},
+        {"ZelGUITextFieldGetString", "QLineEdit,QAbstractSpinBox",
+         text([](int id) { return ZelGUITextFieldGetString(id); }), kNull},
+        {"ZelGUITextFieldSetDouble",
+         "QLineEdit,QAbstractSpinBox",
+         silent([](int id) { ZelGUITextFieldSetDouble(id, 1, "%g"); }),
+         {}},
+        {"ZelGUITextFieldSetLgIndex",
+         "QLineEdit,QAbstractSpinBox",
+         silent([](int id) { ZelGUITextFieldSetLgIndex(id, 1, 0); }),
+         {}},
+        {"ZelGUITextFieldSetSet", "QLineEdit", silent([](int id) { ZelGUITextFieldSetSet(id, nullptr, 1); }), {}},
+        {"ZelGUITextFieldSetString",
+         "QLineEdit,QAbstractSpinBox",
+         silent([](int id) { ZelGUITextFieldSetString(id, nullptr); }),
+         {}},
+        {"ZelGUITextFieldValidateDouble", "QLineEdit,QAbstractSpinBox",
+         number([](int id) { return ZelGUITextFieldValidateDouble(id, "Name", 0, 9); }), kFalse},
+        {"ZelGUITextFieldValidateLgIndex", "QLineEdit,QAbstractSpinBox",
+         number([](int id) { return ZelGUITextFieldValidateLgIndex(id, "Name", 0, 9, 1); }), kFalse},
         {"ZelGUIBlockForModalDialog", "", silent([](int) { ZelGUIBlockForModalDialog(nullptr); }), {}},
         {"ZelGUIButtonAdd", "QWidget", number([](int id) { return ZelGUIButtonAdd(id, 1, 1, 1, 1, nullptr, nullptr); }),
          kNone},

@@ -11,7 +11,7 @@
 struct EntryPoint
 {
     const char *name;
-    /// The toolkit class of the objects that it works on; empty: it takes no identifier that it looks up.
+    /// The toolkit classes of the objects that it works on, separated by commas; empty: it looks no identifier up.
     const char *accepts;
     /// Its answer, written out together with its output arguments.
     std::function<QString(int id)> call;

@@ -27,6 +27,13 @@ std::function<void()> &action(Name name)
     return actions[name];
 }
 
+static std::array<int, NameCount> answers;
+
+int &answer(Name name)
+{
+    return answers[name];
+}
+
 void note(Name name, const QString &value)
 {
     const QString text = QString::fromLatin1(QMetaEnum::fromType<Name>().valueToKey(name));
@@ -79,6 +86,7 @@ void ZelTest::init()
     previousHandler = qInstallMessageHandler(collectWarnings);
     warnings.clear();
     Callback::log().clear();
+    Callback::answers.fill(1);
 }
 
 void ZelTest::cleanup()
@@ -91,6 +99,11 @@ void ZelTest::cleanup()
             window->hide();
     }
     QVERIFY2(warnings.isEmpty(), qPrintable(warnings.join(QLatin1Char('\n'))));
+}
+
+bool ZelTest::waitUntilActive(const QWidget *window)
+{
+    return QTest::qWaitFor([window] { return QApplication::activeWindow() == window; });
 }
 
 int ZelTest::createModal(int parent)
@@ -110,6 +123,9 @@ int ZelTest::launchModeless()
 {
     const int dialog = createModeless();
     ZelGUIDialogLaunch(dialog);
+    if (!waitUntilActive(object<QWidget>(dialog)))
+        QTest::qFail("The dialog has not become active", __FILE__, __LINE__);
+    Callback::log().clear();
     return dialog;
 }
 

@@ -15,7 +15,7 @@
 /// What add-on callbacks can be told apart by. They have no user data, so each is a function of its own.
 namespace Callback {
 Q_NAMESPACE
-enum Name { Init, Ok, Apply, Cancel, Close, Help, Extra, Push, OtherPush, Toggle, NameCount };
+enum Name { Init, Ok, Apply, Cancel, Close, Help, Extra, Push, OtherPush, Toggle, Radio, Option, Text, OtherText, Up, Down, NameCount };
 Q_ENUM_NS(Name)
 
 /// What the library has reported since the test function began: "Ok", "Toggle 1".
@@ -23,6 +23,9 @@ QStringList &log();
 
 /// What an add-on does inside a callback; cleared after each test function.
 std::function<void()> &action(Name name);
+
+/// What a text callback answers: 1, unless set otherwise within a test function.
+int &answer(Name name);
 
 void note(Name name, const QString &value = QString());
 
@@ -36,6 +39,13 @@ template <Name name>
 void reportInt(const int *value)
 {
     note(name, QString::number(*value));
+}
+
+template <Name name>
+int reportText(const char *text)
+{
+    note(name, QString::fromUtf8(text));
+    return answer(name);
 }
 } // namespace Callback
 
@@ -60,8 +70,20 @@ public:
     /// A dialog with all callbacks of its kind.
     static int createModal(int parent = ZELGUI_MAIN_WINDOW);
     static int createModeless(int parent = ZELGUI_MAIN_WINDOW);
-    /// A visible modeless dialog and its button box's button of that kind.
-    static int launchModeless();
+    /// Waits until a window is the active one; a window is not, for the toolkit's tests, if only its parent is.
+    static bool waitUntilActive(const QWidget *window);
+
+    /// A visible and active modeless dialog. What is added to it has to be shown.
+    int launchModeless();
+    /// Shows what was added to a visible dialog.
+    template <typename T>
+    T *shown(int id) const
+    {
+        T *const widget = object<T>(id);
+        widget->show();
+        return widget;
+    }
+    /// The button box's button with that text, mnemonics aside.
     static QAbstractButton *boxButton(QWidget *dialog, const QString &text);
 
     /// Runs `step` when the dialog is the active modal one, inside the loop of its launch.

@@ -80,6 +80,15 @@ typedef void (*ZelGUIVoidCallback)(void);
  */
 typedef void (*ZelGUIIntCallback)(const int *value);
 
+/**
+ * Reports a text that the user has finished or changed.
+ *
+ * @param text  UTF-8, valid only during the call
+ * @return  from text fields and spin text fields: 0 rejects the text, anything else accepts it. A multi-line text
+ *          does not read it.
+ */
+typedef int (*ZelGUITextCallback)(const char *text);
+
 /** @name Dialogs
  * A dialog is a window of fixed size with a strip of buttons below its content. Which buttons there are follows from
  * the callbacks given. No button closes the dialog by itself: its callback calls ZelGUIDialogDrop when the dialog may
@@ -193,6 +202,40 @@ ZELGUI_API void ZelGUIColoredButtonSetColor(int buttonId, int color);
 
 /** @} */
 
+/** @name Bitmap buttons
+ * @{ */
+
+/**
+ * Adds a push button that shows a picture at its own size, pixel for pixel.
+ *
+ * @param bitmapWidth          pixels
+ * @param bitmapHeight         pixels
+ * @param rgbData              bitmapWidth x bitmapHeight x 3 bytes: rows from top to bottom, pixels from left to
+ *                             right, each red, green, blue, without padding. Copied. With NULL, or a width or height
+ *                             below 1, the button has no picture.
+ * @param useTransparentColor  exactly 1: pixels of the colour that follows are transparent
+ * @param callback             called for each click, Space key, and Enter key while it has the focus
+ * @return  the button's identifier
+ */
+ZELGUI_API int ZelGUIBitmapButtonAdd(int parentId, int x, int y, int width, int height, int bitmapWidth,
+                                     int bitmapHeight, const unsigned char *rgbData, ZelBoolean useTransparentColor,
+                                     unsigned char transparentRed, unsigned char transparentGreen,
+                                     unsigned char transparentBlue, ZelGUIVoidCallback callback);
+
+/**
+ * Adds a button with a picture, as ZelGUIBitmapButtonAdd does, that stays pressed while it is on. It is off at first;
+ * ZelGUIToggleGet and ZelGUIToggleSet read and set it.
+ *
+ * @param callback  called with 1 when the user has switched it on and 0 when off
+ * @return  the toggle's identifier
+ */
+ZELGUI_API int ZelGUIBitmapToggleAdd(int parentId, int x, int y, int width, int height, int bitmapWidth,
+                                     int bitmapHeight, const unsigned char *rgbData, ZelBoolean useTransparentColor,
+                                     unsigned char transparentRed, unsigned char transparentGreen,
+                                     unsigned char transparentBlue, ZelGUIIntCallback callback);
+
+/** @} */
+
 /** @name Toggles
  * @{ */
 
@@ -215,6 +258,85 @@ ZELGUI_API ZelBoolean ZelGUIToggleGet(int toggleId);
  * @param value  exactly 1: checked
  */
 ZELGUI_API void ZelGUIToggleSet(int toggleId, ZelBoolean value);
+
+/** @} */
+
+/** @name Radio boxes
+ * @{ */
+
+/**
+ * Adds two to five radio buttons in a column, the first of them checked. Each gets an equal share of the height, a
+ * whole number of units; what remains is left empty below.
+ *
+ * @param label1    Latin-1, white space included, as are the others; NULL counts as empty here and for label2
+ * @param label3    NULL leaves this button out; likewise label4 and label5
+ * @param callback  called with the position of the button that the user has clicked, checked before or not
+ * @return  the identifier of the whole box
+ */
+ZELGUI_API int ZelGUIRadioBoxAdd(int parentId, int x, int y, int width, int height, const char *label1,
+                                 const char *label2, const char *label3, const char *label4, const char *label5,
+                                 ZelGUIIntCallback callback);
+
+/** Position of the checked button, from 1; neutral -1. */
+ZELGUI_API int ZelGUIRadioBoxGetToggle(int radioBoxId);
+
+/** Checks the button at a position, from 1, without a report; a position that does not exist changes nothing. */
+ZELGUI_API void ZelGUIRadioBoxSetToggle(int radioBoxId, int position);
+
+/** @} */
+
+/** @name Option menus
+ * A drop-down list, of which the user chooses one item.
+ * @{ */
+
+/**
+ * Adds an option menu with its first item chosen.
+ *
+ * @param itemList  Latin-1, items separated by commas; white space at both ends of an item is cut off, and what is
+ *                  between two commas, or nothing at all, is an empty item. For an item with a comma use
+ *                  ZelGUIOptionMenuAppendItem.
+ * @param callback  called with the position of the item that the user has chosen, from 1; not if it was chosen before
+ * @return  the menu's identifier
+ */
+ZELGUI_API int ZelGUIOptionMenuAdd(int parentId, int x, int y, int width, int height, const char *itemList,
+                                   ZelGUIIntCallback callback);
+
+/** Position of the chosen item, from 1; 0 if there is none; neutral -1. */
+ZELGUI_API int ZelGUIOptionMenuGet(int menuId);
+
+/**
+ * Text of the item at a position, from 1.
+ *
+ * @return  a UTF-8 copy that the caller releases with ZelUtilStringDealloc, empty where there is no such item; NULL
+ *          when the host has no memory; neutral NULL
+ */
+ZELGUI_API char *ZelGUIOptionMenuGetString(int menuId, int position);
+
+/** How many items there are; neutral -1. */
+ZELGUI_API int ZelGUIOptionMenuGetItemCount(int menuId);
+
+/** Chooses the item at a position, from 1, without a report; none, where there is no such item. */
+ZELGUI_API void ZelGUIOptionMenuSet(int menuId, int position);
+
+/**
+ * Chooses the first item with a text, without a report.
+ *
+ * @param text  UTF-8, compared exactly
+ * @return  the item's position, from 1; -1 if there is none, and then the choice stays as it is; neutral -1
+ */
+ZELGUI_API int ZelGUIOptionMenuSetByString(int menuId, const char *text);
+
+/** Appends one item, UTF-8, as it stands. It becomes the chosen one if it is the only one. */
+ZELGUI_API void ZelGUIOptionMenuAppendItem(int menuId, const char *text);
+
+/** Removes all items, without a report. */
+ZELGUI_API void ZelGUIOptionMenuDeleteAllItems(int menuId);
+
+/**
+ * Removes the item at a position, from 1, without a report; if it was the chosen one, a neighbour is chosen. A
+ * position that does not exist changes nothing.
+ */
+ZELGUI_API void ZelGUIOptionMenuDeleteItemAtPos(int menuId, int position);
 
 /** @} */
 
@@ -243,6 +365,174 @@ ZELGUI_API void ZelGUILabelSetDouble(int labelId, double value, const char *form
 
 /** Shows the low 32 bits of an integer, as a signed number, in a label: 2^32 + 1 shows "1". */
 ZELGUI_API void ZelGUILabelSetLgIndex(int labelId, LgIndex value);
+
+/** @} */
+
+/** @name Text fields
+ * A line in which the user types. All of these but ZelGUITextFieldGetSet and ZelGUITextFieldSetSet work on spin text
+ * fields too. What the add-on sets is not reported.
+ * @{ */
+
+/**
+ * Adds an empty text field.
+ *
+ * @param callback  called with the text at each Return or Enter and each time the field loses the keyboard focus. When
+ *                  it rejects the text, the field keeps the focus and the text is selected, for the user to type
+ *                  over; the dialog can still be left by Cancel, Close and Escape.
+ * @return  the field's identifier; 0 (not ZELGUI_INVALID_ID) without a GUI
+ */
+ZELGUI_API int ZelGUITextFieldAdd(int parentId, int x, int y, int width, int height, ZelGUITextCallback callback);
+
+/**
+ * The text.
+ *
+ * @return  a UTF-8 copy that the caller releases with ZelUtilStringDealloc; NULL when the host has no memory; neutral
+ *          NULL
+ */
+ZELGUI_API char *ZelGUITextFieldGetString(int fieldId);
+
+/** Sets the text, UTF-8. */
+ZELGUI_API void ZelGUITextFieldSetString(int fieldId, const char *text);
+
+/**
+ * Reads the text as a number, with a point for the decimals.
+ *
+ * @param value  receives the number, 0 if it is none; may be NULL
+ * @return  1 if the whole text is a number; neutral 0
+ */
+ZELGUI_API ZelBoolean ZelGUITextFieldGetDouble(int fieldId, double *value);
+
+/** Sets the text to a number; for the format see ZelGUILabelSetDouble. */
+ZELGUI_API void ZelGUITextFieldSetDouble(int fieldId, double value, const char *format);
+
+/**
+ * Reads the text as an integer or as an MX expression. In an integer field "MX", in either case, stands for the
+ * maximum of a range that the field does not know; it is read as the offset from the maximum, so "MX" is 0 and "MX-3"
+ * is -3. Without "MX", the first digits found anywhere in the text count, and whatever is around them does not: "-5"
+ * is 5, "3.9" is 3.
+ *
+ * @param value  receives the integer, 0 if it is none; may be NULL
+ * @return  1 if there is an integer of at most 2147483647, or an MX expression; neutral 0
+ */
+ZELGUI_API ZelBoolean ZelGUITextFieldGetLgIndex(int fieldId, LgIndex *value);
+
+/**
+ * Sets the text to an integer.
+ *
+ * @param displayAsMX  true: a value of 0 is written "Mx", a negative one with "Mx" before it, such as "Mx-3"
+ */
+ZELGUI_API void ZelGUITextFieldSetLgIndex(int fieldId, LgIndex value, ZelBoolean displayAsMX);
+
+/**
+ * Whether the text is a number from min to max, both included. If not, tells the user why in the host's error dialog,
+ * and returns when that was dismissed.
+ *
+ * @param name  what the message calls the field, Latin-1; NULL: no message
+ * @return  1 if it is; neutral 0, without a message
+ */
+ZELGUI_API ZelBoolean ZelGUITextFieldValidateDouble(int fieldId, const char *name, double min, double max);
+
+/**
+ * Whether the text is an integer from min to max, both included, as ZelGUITextFieldGetLgIndex reads it. If not, tells
+ * the user why in the host's error dialog, and returns when that was dismissed.
+ *
+ * @param name     what the message calls the field, Latin-1; NULL: no message
+ * @param max      also what "MX" stands for: an MX expression is valid if its offset and max make at least min. The
+ *                 sum stays within 64 bits.
+ * @param allowMX  0: "MX" is not valid
+ * @return  1 if it is; neutral 0, without a message
+ */
+ZELGUI_API ZelBoolean ZelGUITextFieldValidateLgIndex(int fieldId, const char *name, LgIndex min, LgIndex max,
+                                                     ZelBoolean allowMX);
+
+/**
+ * Reads the text of a text field as an index set: numbers from 1 with at most 10 digits, ranges "3-8" and ranges with a
+ * step "1-9:2", separated by commas or blanks, with or without brackets around all. No text is an empty set.
+ *
+ * @param set  receives a new set that the caller releases with ZelUtilSetDealloc, NULL if the text is no set; may be
+ *             NULL
+ * @return  1 if the text is a set; 0 also when the host has no memory; neutral 0
+ */
+ZELGUI_API ZelBoolean ZelGUITextFieldGetSet(int fieldId, IndexSet *set);
+
+/**
+ * Sets the text of a text field to an index set, such as "1-3,5,7-9".
+ *
+ * @param set              stays the caller's; NULL counts as empty
+ * @param includeBrackets  true: "[1-3,5,7-9]"
+ */
+ZELGUI_API void ZelGUITextFieldSetSet(int fieldId, IndexSet set, ZelBoolean includeBrackets);
+
+/** @} */
+
+/** @name Spin text fields
+ * A text field with arrows up and down. The functions for text fields read and set its text.
+ * @{ */
+
+/**
+ * Adds an empty spin text field. A step changes nothing by itself: its callback does, for example with
+ * ZelGUISpinTextFieldIncDouble.
+ *
+ * @param textCallback  as for ZelGUITextFieldAdd
+ * @param upCallback    called for each step up, by the arrow, the Up and Page Up keys or the mouse wheel
+ * @param downCallback  called for each step down
+ * @return  the field's identifier
+ */
+ZELGUI_API int ZelGUISpinTextFieldAdd(int parentId, int x, int y, int width, int height,
+                                      ZelGUITextCallback textCallback, ZelGUIVoidCallback upCallback,
+                                      ZelGUIVoidCallback downCallback);
+
+/**
+ * Adds an increment to the number in the text, and limits it to min or max.
+ *
+ * @param format  see ZelGUILabelSetDouble
+ * @return  1 if that was done; 0 if the text is no number or the format none for numbers; neutral 0
+ */
+ZELGUI_API ZelBoolean ZelGUISpinTextFieldIncDouble(int spinId, const char *format, double increment, double min,
+                                                   double max);
+
+/**
+ * Adds an increment to the integer in the text, as ZelGUITextFieldGetLgIndex reads it, and limits it to min or max. The
+ * sum stays within 64 bits. It is written as a plain number, never with "Mx".
+ *
+ * @return  1 if that was done; 0 if the text is no integer; neutral 0
+ */
+ZELGUI_API ZelBoolean ZelGUISpinTextFieldIncLgIndex(int spinId, LgIndex increment, LgIndex min, LgIndex max);
+
+/** @} */
+
+/** @name Multi-line text
+ * @{ */
+
+/**
+ * Adds an empty text of several lines. Too small for scroll bars, it has none.
+ *
+ * @param readOnly  exactly 1: the user can't change it
+ * @param callback  called with the whole text at each change that the user makes; its result is not read
+ * @return  the text's identifier
+ */
+ZELGUI_API int ZelGUITextAdd(int parentId, int x, int y, int width, int height, ZelBoolean readOnly,
+                             ZelGUITextCallback callback);
+
+/**
+ * The whole text, byte for byte as it was put in, but for other line ends: CR LF, CR and U+2029 are line feeds.
+ *
+ * @return  a UTF-8 copy that the caller releases with ZelUtilStringDealloc; NULL when the host has no memory; neutral
+ *          NULL
+ */
+ZELGUI_API char *ZelGUITextGetString(int textId);
+
+/** Sets the whole text, UTF-8, without a report. */
+ZELGUI_API void ZelGUITextSetString(int textId, const char *text);
+
+/** Appends to the text, UTF-8, without a line break between, without a report, and moves the cursor to the end. */
+ZELGUI_API void ZelGUITextAppendString(int textId, const char *text);
+
+/** Whether long lines are broken between words; at first they are broken wherever they have to be. */
+ZELGUI_API void ZelGUITextAllowWordWrap(int textId, ZelBoolean allow);
+
+/** True: a font of fixed pitch; false: the font of the parent. The text's size stays. */
+ZELGUI_API void ZelGUITextUseFixedPitchFont(int textId, ZelBoolean use);
 
 /** @} */
 

@@ -47,6 +47,15 @@ inline void reportChange(QObject *sender, ZelGUIIntCallback callback, int value)
         report<const int *>(sender, callback, &value);
 }
 
+/// Tells an add-on the whole of a text, in UTF-8, and asks what it thinks of it: false if it rejects the text. There is
+/// nobody to reject one without a callback, nor when the sender is gone.
+inline bool askWhetherAccepted(QObject *sender, ZelGUITextCallback callback, const QString &text) noexcept
+{
+    int answer = 1;
+    const bool isAnswered = callback && callOut(sender, [&] { answer = callback(text.toUtf8().constData()); });
+    return !isAnswered || answer != 0;
+}
+
 } // namespace orvane::zelgui
 
 #endif

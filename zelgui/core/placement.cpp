@@ -3,9 +3,11 @@
 
 #include <zvsdkbase/zelutil.h>
 
+#include <QAbstractScrollArea>
 #include <QDialog>
 #include <QFontMetrics>
 #include <QLabel>
+#include <QScrollBar>
 #include <QWidget>
 
 #include <algorithm>
@@ -70,6 +72,17 @@ void placeWidget(QWidget *widget, int x, int y, int width, int height)
 
     if (!qobject_cast<QDialog *>(widget) && !qobject_cast<QLabel *>(widget))
         widget->setFocusPolicy(Qt::StrongFocus);
+}
+
+void placeScrollArea(QAbstractScrollArea *area, int x, int y, int width, int height)
+{
+    placeWidget(area, x, y, width, height);
+    const int bars = area->verticalScrollBar()->sizeHint().width() + area->horizontalScrollBar()->sizeHint().height();
+    const QSize room = area->maximumSize() - QSize(bars, bars);
+    if (room.width() <= 2 * area->frameWidth() || room.height() <= 2 * area->frameWidth()) {
+        area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    }
 }
 
 } // namespace orvane::zelgui

@@ -2,6 +2,7 @@
 #ifndef ZELGUI_CORE_PLACEMENT_H
 #define ZELGUI_CORE_PLACEMENT_H
 
+class QAbstractScrollArea;
 class QWidget;
 
 namespace orvane::zelgui {
@@ -11,6 +12,10 @@ namespace orvane::zelgui {
 /// and y are positive, and each dimension is fixed only if it is positive. Everything but dialogs and labels can have
 /// the keyboard focus afterwards, by Tab and by click.
 void placeWidget(QWidget *widget, int x, int y, int width, int height);
+
+/// The same for a widget with scroll bars. If it is too small for them they are off: the toolkit would show and hide
+/// them for ever.
+void placeScrollArea(QAbstractScrollArea *area, int x, int y, int width, int height);
 
 } // namespace orvane::zelgui
 

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "support/zeltest.h"
+
+#include <QFontInfo>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+
+using namespace Callback;
+
+namespace {
+
+QByteArray textOf(int id)
+{
+    char *text = ZelGUITextGetString(id);
+    const QByteArray result(text);
+    ZelUtilStringDealloc(&text);
+    return result;
+}
+
+} // namespace
+
+/// Text of several lines.
+class tst_MultiLineText : public ZelTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void comesBackAsPutIn_data();
+    void comesBackAsPutIn();
+    void appending();
+    void userChanges();
+    void readOnly_data();
+    void readOnly();
+    void wrappingAndFont();
+    void tooSmallForScrollBars_data();
+    void tooSmallForScrollBars();
+};
+
+void tst_MultiLineText::comesBackAsPutIn_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("expected");
+    const auto same = [](const char *name, const QByteArray &text) { QTest::newRow(name) << text << text; };
+    same("empty", "");
+    same("empty lines at both ends", "\n\na\n\n");
+    same("no-break space", "a\xC2\xA0"
+                           "b");
+    same("line separator", "a\xE2\x80\xA8"
+                           "b");
+    same("byte order mark", "\xEF\xBB\xBF"
+                            "a");
+    same("combining character, emoji, tab", "e\xCC\x81 \xF0\x9F\x98\x80\t.");
+    same("object replacement character", "\xEF\xBF\xBC");
+    same("control characters", "\x01\x0B\x0C\x1B\x7F");
+    same("a million lines", QByteArray("line\n").repeated(1000000));
+    QTest::newRow("other line ends") << QByteArray("a\r\nb\rc\xE2\x80\xA9"
+                                                   "d")
+                                     << QByteArray("a\nb\nc\nd");
+}
+
+void tst_MultiLineText::comesBackAsPutIn()
+{
+    QFETCH(QByteArray, text);
+    const int id = ZelGUITextAdd(createModal(), 100, 100, 2000, 500, 0, reportText<Text>);
+    ZelGUITextSetString(id, text.constData());
+    QTEST(textOf(id), "expected");
+    QCOMPARE(log(), QStringList());
+}
+
+void tst_MultiLineText::appending()
+{
+    const int id = ZelGUITextAdd(createModal(), 100, 100, 2000, 500, 1, reportText<Text>);
+    auto *const edit = object<QPlainTextEdit>(id);
+    ZelGUITextSetString(id, "a");
+    edit->selectAll();
+    ZelGUITextAppendString(id, "b\n");
+    ZelGUITextAppendString(id, nullptr);
+    ZelGUITextAppendString(id, "\xC3\xA9");
+    QCOMPARE(textOf(id), QByteArray("ab\n\xC3\xA9"));
+    QVERIFY(!edit->textCursor().hasSelection());
+    QVERIFY(edit->textCursor().atEnd());
+    QCOMPARE(log(), QStringList());
+}
+
+void tst_MultiLineText::userChanges()
+{
+    const int id = ZelGUITextAdd(launchModeless(), 100, 100, 2000, 500, 0, reportText<Text>);
+    ZelGUITextSetString(id, "x\xC2\xA0");
+    auto *const edit = shown<QPlainTextEdit>(id);
+    // Ignored: there is nothing to take back.
+    answer(Text) = 0;
+    QTest::keyClick(edit, Qt::Key_A);
+    QTest::keyClick(edit, Qt::Key_Delete);
+    QCOMPARE(log(), QStringList({QString::fromUtf8("Text ax\xC2\xA0"), QString::fromUtf8("Text a\xC2\xA0")}));
+}
+
+void tst_MultiLineText::readOnly_data()
+{
+    QTest::addColumn<int>("readOnly");
+    QTest::addColumn<bool>("expected");
+    QTest::newRow("0") << 0 << false;
+    QTest::newRow("1") << 1 << true;
+    QTest::newRow("2") << 2 << false;
+}
+
+void tst_MultiLineText::readOnly()
+{
+    QFETCH(int, readOnly);
+    const int id = ZelGUITextAdd(createModal(), 1, 1, 2000, 500, static_cast<ZelBoolean>(readOnly), nullptr);
+    QTEST(object<QPlainTextEdit>(id)->isReadOnly(), "expected");
+}
+
+void tst_MultiLineText::wrappingAndFont()
+{
+    const int id = ZelGUITextAdd(createModal(), 1, 1, 2000, 500, 0, reportText<Text>);
+    auto *const edit = object<QPlainTextEdit>(id);
+    const auto lineWrap = edit->lineWrapMode();
+    ZelGUITextAllowWordWrap(id, 0);
+    QCOMPARE(edit->wordWrapMode(), QTextOption::NoWrap);
+    ZelGUITextAllowWordWrap(id, 2);
+    QCOMPARE(edit->wordWrapMode(), QTextOption::WordWrap);
+    QCOMPARE(edit->lineWrapMode(), lineWrap);
+
+    const QSize size = edit->size();
+    ZelGUITextUseFixedPitchFont(id, 1);
+    QCOMPARE(edit->font().family(), QString("Courier"));
+    QVERIFY(QFontInfo(edit->font()).fixedPitch());
+    ZelGUITextUseFixedPitchFont(id, 0);
+    QCOMPARE(edit->font(), edit->parentWidget()->font());
+    QCOMPARE(edit->size(), size);
+    QCOMPARE(log(), QStringList());
+}
+
+void tst_MultiLineText::tooSmallForScrollBars_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("nothing") << QSize(1, 1);
+    QTest::newRow("narrow") << QSize(100, 2000);
+    QTest::newRow("flat") << QSize(4000, 50);
+    QTest::newRow("barely room") << QSize(200, 100);
+    QTest::newRow("small") << QSize(400, 200);
+}
+
+// Showing a scroll bar leaves no room for the text, which hides the scroll bar, which makes room.
+void tst_MultiLineText::tooSmallForScrollBars()
+{
+    QFETCH(QSize, size);
+    const int id = ZelGUITextAdd(launchModeless(), 100, 100, size.width(), size.height(), 0, nullptr);
+    ZelGUITextAllowWordWrap(id, 1);
+    ZelGUITextSetString(id, "some text that is wider and\nhigher\nthan\nthe widget\nhas room for");
+    auto *const edit = shown<QPlainTextEdit>(id);
+    int changes = 0;
+    for (QScrollBar *const bar : {edit->verticalScrollBar(), edit->horizontalScrollBar()})
+        connect(bar, &QScrollBar::rangeChanged, this, [&changes] { ++changes; });
+    for (int pass = 0; pass < 50; ++pass)
+        QApplication::processEvents();
+    QVERIFY2(changes < 30, qPrintable(QString::number(changes)));
+}
+
+ZELTEST_MAIN(tst_MultiLineText)
+#include "tst_multilinetext.moc"

@@ -1,0 +1,290 @@
+// SPDX-License-Identifier: MIT
+#include "support/zeltest.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTimer>
+
+using namespace Callback;
+
+/// When a field reports, and that a rejected text can't be left. Every case is played with a text field and with a spin
+/// text field, in a dialog that also has another field, an option menu and its buttons.
+class tst_TextFieldFocus : public ZelTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void eachEndOfEditingOnce_data() { kinds(); }
+    void eachEndOfEditingOnce();
+    void rejectedTextCannotBeLeft_data() { kinds(); }
+    void rejectedTextCannotBeLeft();
+    void rejectedReturnLeavesTheDefaultButton_data() { kinds(); }
+    void rejectedReturnLeavesTheDefaultButton();
+    void twoRejectingFields_data() { kinds(); }
+    void twoRejectingFields();
+    void cancelTakesOneClick_data() { kinds(); }
+    void cancelTakesOneClick();
+    void goneWithItsDialog_data() { kinds(); }
+    void goneWithItsDialog();
+    void callbackShowsAMessage_data() { kinds(); }
+    void callbackShowsAMessage();
+    void popups_data() { kinds(); }
+    void popups();
+    void otherWindow_data() { kinds(); }
+    void otherWindow();
+
+private:
+    static void kinds();
+    /// Opens the dialog with a field of the row's kind, which has the focus and the text "bad".
+    void open();
+    bool hasFocus() const { return QApplication::focusWidget() == m_widget; }
+    bool isAllSelected() const { return m_edit->selectedText() == m_edit->text() && !m_edit->text().isEmpty(); }
+
+    int m_dialog = -2;
+    int m_other = -2;
+    QDialog *m_window = nullptr;
+    /// What has the focus when the field has it, and where its text is.
+    QPointer<QWidget> m_widget;
+    QPointer<QLineEdit> m_edit;
+    QComboBox *m_menu = nullptr;
+};
+
+void tst_TextFieldFocus::kinds()
+{
+    QTest::addColumn<bool>("isSpin");
+    QTest::newRow("text field") << false;
+    QTest::newRow("spin text field") << true;
+}
+
+void tst_TextFieldFocus::open()
+{
+    QFETCH(bool, isSpin);
+    log().clear();
+    m_dialog = ZelGUIDialogCreateModeless(ZELGUI_MAIN_WINDOW, 4000, 1000, "", nullptr, report<Close>, nullptr);
+    ZelGUIDialogAddButtonToButtonBox(m_dialog, "Default", 1, report<Extra>);
+    const int field = isSpin ? ZelGUISpinTextFieldAdd(m_dialog, 100, 100, 1000, 130, reportText<Text>, nullptr, nullptr)
+                             : ZelGUITextFieldAdd(m_dialog, 100, 100, 1000, 130, reportText<Text>);
+    m_other = ZelGUITextFieldAdd(m_dialog, 100, 300, 1000, 130, reportText<OtherText>);
+    const int menu = ZelGUIOptionMenuAdd(m_dialog, 100, 500, 1000, 130, "A,B", reportInt<Option>);
+    m_window = object<QDialog>(m_dialog);
+    m_widget = object<QWidget>(field);
+    m_edit = isSpin ? m_widget->findChild<QLineEdit *>() : object<QLineEdit>(field);
+    m_menu = object<QComboBox>(menu);
+    ZelGUIDialogLaunch(m_dialog);
+    QVERIFY(waitUntilActive(m_window));
+    m_widget->setFocus();
+    QVERIFY(hasFocus());
+    QTest::keyClicks(m_widget, "bad");
+    QCOMPARE(log(), QStringList());
+}
+
+void tst_TextFieldFocus::eachEndOfEditingOnce()
+{
+    open();
+    QTest::keyClick(m_widget, Qt::Key_Enter);
+    QCOMPARE(log(), QStringList({"Text bad", "Extra"}));
+    log().clear();
+    QTest::keyClick(m_widget, Qt::Key_Tab);
+    QVERIFY(!hasFocus());
+    QCOMPARE(log(), QStringList({"Text bad"}));
+    QTest::keyClick(object<QWidget>(m_other), Qt::Key_Backtab);
+    QVERIFY(hasFocus());
+    QTest::keyClicks(m_widget, "x");
+    QTest::mouseClick(object<QWidget>(m_other), Qt::LeftButton);
+    QCOMPARE(log(), QStringList({"Text bad", "OtherText ", "Text x"}));
+}
+
+void tst_TextFieldFocus::rejectedTextCannotBeLeft()
+{
+    open();
+    answer(Text) = 0;
+    QStringList expected;
+    const auto rejected = [&](const char *text) {
+        expected << QStringLiteral("Text ") + text;
+        QCOMPARE(log(), expected);
+        QVERIFY(hasFocus());
+        QVERIFY(isAllSelected());
+    };
+    // Edited, not edited, by every way out, again and again.
+    for (int i = 0; i < 2; ++i) {
+        QTest::keyClick(m_widget, Qt::Key_Tab);
+        rejected("bad");
+        QTest::keyClick(m_widget, Qt::Key_Return);
+        rejected("bad");
+        QTest::mouseClick(object<QWidget>(m_other), Qt::LeftButton);
+        rejected("bad");
+        QTest::keyClick(m_widget, Qt::Key_Backtab);
+        rejected("bad");
+    }
+    QTest::keyClicks(m_widget, "worse");
+    QTest::keyClick(m_widget, Qt::Key_Tab);
+    rejected("worse");
+    answer(Text) = 5;
+    QTest::keyClick(m_widget, Qt::Key_Tab);
+    QVERIFY(!hasFocus());
+    QCOMPARE(log(), expected << "Text worse");
+}
+
+void tst_TextFieldFocus::rejectedReturnLeavesTheDefaultButton()
+{
+    open();
+    answer(Text) = 0;
+    QTest::keyClick(m_widget, Qt::Key_Return);
+    QCOMPARE(log(), QStringList({"Text bad"}));
+    // Programmatic changes aren't reported, but what is there can be left again.
+    answer(Text) = 1;
+    QTest::keyClick(m_widget, Qt::Key_Return);
+    QCOMPARE(log(), QStringList({"Text bad", "Text bad", "Extra"}));
+}
+
+void tst_TextFieldFocus::twoRejectingFields()
+{
+    open();
+    answer(Text) = 0;
+    answer(OtherText) = 0;
+    QTest::keyClick(m_widget, Qt::Key_Tab);
+    QTest::mouseClick(object<QWidget>(m_other), Qt::LeftButton);
+    QCOMPARE(log(), QStringList({"Text bad", "Text bad"}));
+    QVERIFY(hasFocus());
+}
+
+// Taking the focus back a moment later would let go of the button before the release of the mouse.
+void tst_TextFieldFocus::cancelTakesOneClick()
+{
+    open();
+    answer(Text) = 0;
+    action(Close) = [this] { ZelGUIDialogDrop(m_dialog); };
+    QTest::mouseClick(boxButton(m_window, "Close"), Qt::LeftButton);
+    QCOMPARE(log(), QStringList({"Text bad", "Close"}));
+    QCOMPARE(ZelGUIDialogIsUp(m_dialog), 0);
+    QTest::qWait(10);
+    QCOMPARE(log().size(), 2);
+}
+
+void tst_TextFieldFocus::goneWithItsDialog()
+{
+    open();
+    answer(Text) = 0;
+    action(Close) = [this] { ZelGUIDialogDrop(m_dialog); };
+    QTest::keyClick(m_widget, Qt::Key_Escape);
+    QCOMPARE(ZelGUIDialogIsUp(m_dialog), 0);
+    QTest::qWait(10);
+    QCOMPARE(log(), QStringList({"Close"}));
+
+    // Dropped by the callback that rejects.
+    open();
+    action(Text) = [this] { ZelGUIDialogDrop(m_dialog); };
+    QTest::keyClick(m_widget, Qt::Key_Tab);
+    QTest::qWait(10);
+    QCOMPARE(log(), QStringList({"Text bad"}));
+
+    // Destroyed with the focus in it.
+    open();
+    delete m_window;
+    QVERIFY(m_widget.isNull());
+    QTest::qWait(10);
+    QCOMPARE(log(), QStringList());
+}
+
+// The host's error dialog takes the focus from the field whose report is running, and gives it back to the next one.
+void tst_TextFieldFocus::callbackShowsAMessage()
+{
+    open();
+    answer(Text) = 0;
+    answer(OtherText) = 0;
+    int shownMessages = 0;
+    action(Text) = [&] {
+        QTimer closer;
+        connect(&closer, &QTimer::timeout, this, [&] {
+            if (QWidget *const message = QApplication::activeModalWidget()) {
+                ++shownMessages;
+                message->close();
+            }
+        });
+        closer.start(1);
+        ZelUtilDialogErrMsg("no good");
+    };
+    // Without a window manager, nobody activates the dialog when the message is gone.
+    const auto isBack = [this] {
+        m_window->activateWindow();
+        return QTest::qWaitFor([this] { return hasFocus(); }) && isAllSelected();
+    };
+    QTest::keyClick(m_widget, Qt::Key_Tab);
+    QVERIFY(isBack());
+    QTest::mouseClick(object<QWidget>(m_other), Qt::LeftButton);
+    QVERIFY(isBack());
+    QTest::keyClick(m_widget, Qt::Key_Return);
+    QVERIFY(isBack());
+    QTest::qWait(10);
+    QCOMPARE(shownMessages, 3);
+    QCOMPARE(log(), QStringList({"Text bad", "Text bad", "Text bad"}));
+}
+
+void tst_TextFieldFocus::popups()
+{
+    open();
+    // The platform of these tests leaves no window active when a popup has closed; on a desktop, the dialog is.
+    const auto closePopup = [this] {
+        const QStringList before = log();
+        QApplication::activePopupWidget()->close();
+        QVERIFY(QTest::qWaitFor([] { return !QApplication::activePopupWidget(); }));
+        m_window->activateWindow();
+        QVERIFY(waitUntilActive(m_window));
+        m_widget->setFocus();
+        log() = before;
+    };
+
+    // Its own menu is no loss. That of a spin box has an event loop of its own.
+    bool hasMenuOpened = false;
+    QTimer closer;
+    connect(&closer, &QTimer::timeout, this, [&] {
+        if (!QApplication::activePopupWidget())
+            return;
+        closer.stop();
+        hasMenuOpened = true;
+        QCOMPARE(log(), QStringList());
+        closePopup();
+    });
+    closer.start(1);
+    QContextMenuEvent contextMenu(QContextMenuEvent::Keyboard, QPoint(2, 2), m_edit->mapToGlobal(QPoint(2, 2)));
+    QApplication::sendEvent(m_edit, &contextMenu);
+    QTRY_VERIFY(hasMenuOpened);
+
+    // A list that opens without having had the focus before takes it twice.
+    m_menu->showPopup();
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QCOMPARE(log(), QStringList({"Text bad"}));
+    closePopup();
+
+    // One click on a list takes it once for the list itself and once for what opens; that is one rejection.
+    answer(Text) = 0;
+    log().clear();
+    QTest::mouseClick(m_menu, Qt::LeftButton);
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QCOMPARE(log(), QStringList({"Text bad"}));
+    closePopup();
+    QTest::keyClick(m_widget, Qt::Key_Tab);
+    QCOMPARE(log(), QStringList({"Text bad", "Text bad"}));
+    QVERIFY(hasFocus());
+}
+
+void tst_TextFieldFocus::otherWindow()
+{
+    open();
+    mainWindow()->activateWindow();
+    QVERIFY(waitUntilActive(mainWindow()));
+    QCOMPARE(log(), QStringList({"Text bad"}));
+    m_window->activateWindow();
+    QVERIFY(waitUntilActive(m_window));
+    QVERIFY(hasFocus());
+    QTest::keyClick(m_widget, Qt::Key_Tab);
+    QCOMPARE(log(), QStringList({"Text bad", "Text bad"}));
+}
+
+ZELTEST_MAIN(tst_TextFieldFocus)
+#include "tst_textfieldfocus.moc"

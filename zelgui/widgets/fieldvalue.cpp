@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "widgets/fieldvalue.h"
+
+#include "core/text.h"
+#include "widgets/spintextfield.h"
+#include "widgets/textfield.h"
+
+#include <QLineEdit>
+#include <QRegularExpression>
+
+#include <limits>
+
+namespace orvane::zelgui {
+
+namespace {
+
+const QString kMX = QStringLiteral("MX");
+
+} // namespace
+
+QLineEdit *lineEditOf(int id)
+{
+    const auto *const repository = ZelGUIWidgetRepository::instance();
+    if (auto *const field = repository->widgetAs<QLineEdit>(id))
+        return field;
+    const auto *const spin = repository->widgetAs<ZelGUISpinTextField>(id);
+    return spin ? spin->textField() : nullptr;
+}
+
+std::optional<double> readDouble(const QLineEdit &field)
+{
+    bool isNumber = false;
+    const double value = field.text().toDouble(&isNumber);
+    return isNumber ? std::optional<double>(value) : std::nullopt;
+}
+
+bool containsMX(const QLineEdit &field)
+{
+    return field.text().contains(kMX, Qt::CaseInsensitive);
+}
+
+std::optional<LgIndex> readLgIndex(const QLineEdit &field)
+{
+    // Digits and blanks of every script match, though only ASCII digits convert: a text with others is no number,
+    // rather than the number made of its ASCII digits alone.
+    static const auto kOptions = QRegularExpression::UseUnicodePropertiesOption;
+    static const QRegularExpression kPlain(QStringLiteral(R"((\d+))"), kOptions);
+    static const QRegularExpression kOffset(QStringLiteral(R"(MX\s*-\s*(\d+))"), kOptions);
+
+    const QString text = field.text().toUpper().trimmed();
+    if (text == kMX)
+        return 0;
+    const bool isMX = text.contains(kMX);
+    const QRegularExpressionMatch match = (isMX ? kOffset : kPlain).match(text);
+    bool isNumber = false;
+    const LgIndex number = match.captured(1).toInt(&isNumber);
+    if (!isNumber)
+        return std::nullopt;
+    return isMX ? -number : number;
+}
+
+bool writeText(QLineEdit &field, const QString &text)
+{
+    const CallbackSuppressor suppressor;
+    field.setText(text);
+    return true;
+}
+
+bool writeDouble(QLineEdit &field, double value, const char *format)
+{
+    const QString text = formatDouble(format, value);
+    return !text.isNull() && writeText(field, text);
+}
+
+bool writeLgIndex(QLineEdit &field, LgIndex value, bool displayAsMX)
+{
+    const QString number = QString::number(value);
+    if (!displayAsMX || value > 0)
+        return writeText(field, number);
+    const QString maximum = QStringLiteral("Mx");
+    return writeText(field, value == 0 ? maximum : maximum + number);
+}
+
+LgIndex saturatingSum(LgIndex a, LgIndex b)
+{
+    using Limits = std::numeric_limits<LgIndex>;
+    if (b > 0 && a > Limits::max() - b)
+        return Limits::max();
+    if (b < 0 && a < Limits::min() - b)
+        return Limits::min();
+    return a + b;
+}
+
+} // namespace orvane::zelgui

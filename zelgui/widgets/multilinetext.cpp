@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "widgets/multilinetext.h"
+
+#include "core/callback.h"
+#include "core/entrypoint.h"
+#include "core/placement.h"
+#include "core/text.h"
+
+#include <QTextBlock>
+
+namespace orvane::zelgui {
+
+namespace {
+
+/// The text as it was put in. The toolkit's own answer has blanks for no-break spaces, and line feeds for U+2028.
+QString textOf(const QPlainTextEdit &edit)
+{
+    const QTextDocument *const document = edit.document();
+    QString text;
+    text.reserve(document->characterCount());
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        if (block.blockNumber() > 0)
+            text += QLatin1Char('\n');
+        text += block.text();
+    }
+    return text;
+}
+
+void useFixedPitchFont(QWidget &widget)
+{
+    QFont font(QStringLiteral("Courier"), -1, -1, false);
+    // Where there is no Courier, let it be another font of fixed pitch.
+    font.setStyleHint(QFont::Monospace, QFont::PreferDefault);
+    widget.setFont(font);
+}
+
+} // namespace
+
+ZelGUIText::ZelGUIText(QWidget *parent, int x, int y, int width, int height, bool readOnly, ZelGUITextCallback callback)
+    : QPlainTextEdit(parent), m_callback(callback)
+{
+    placeScrollArea(this, x, y, width, height);
+    connect(this, &QPlainTextEdit::textChanged, this, &ZelGUIText::onTextChanged);
+    setReadOnly(readOnly);
+}
+
+void ZelGUIText::onTextChanged()
+{
+    if (!ZelGUIWidgetRepository::instance()->callbacksSuppressed())
+        askWhetherAccepted(this, m_callback, textOf(*this));
+}
+
+} // namespace orvane::zelgui
+
+using namespace orvane::zelgui;
+
+int ZelGUITextAdd(int parentId, int x, int y, int width, int height, ZelBoolean readOnly, ZelGUITextCallback callback)
+{
+    return addWidgetTo<ZelGUIText>(parentId, x, y, width, height, readOnly == 1, callback);
+}
+
+char *ZelGUITextGetString(int textId)
+{
+    return withWidget<QPlainTextEdit>(textId, static_cast<char *>(nullptr),
+                                      [](const QPlainTextEdit &edit) { return allocHostString(textOf(edit)); });
+}
+
+void ZelGUITextSetString(int textId, const char *text)
+{
+    withWidget<QPlainTextEdit>(textId, [text](QPlainTextEdit &edit) {
+        const CallbackSuppressor suppressor;
+        edit.setPlainText(fromUtf8(text));
+    });
+}
+
+void ZelGUITextAppendString(int textId, const char *text)
+{
+    withWidget<QPlainTextEdit>(textId, [text](QPlainTextEdit &edit) {
+        const CallbackSuppressor suppressor;
+        edit.moveCursor(QTextCursor::End);
+        edit.insertPlainText(fromUtf8(text));
+    });
+}
+
+void ZelGUITextAllowWordWrap(int textId, ZelBoolean allow)
+{
+    withWidget<QPlainTextEdit>(textId, [allow](QPlainTextEdit &edit) {
+        edit.setWordWrapMode(allow ? QTextOption::WordWrap : QTextOption::NoWrap);
+    });
+}
+
+void ZelGUITextUseFixedPitchFont(int textId, ZelBoolean use)
+{
+    withWidget<QPlainTextEdit>(textId, [use](QPlainTextEdit &edit) {
+        if (use)
+            useFixedPitchFont(edit);
+        else
+            edit.setFont(edit.parentWidget()->font());
+    });
+}
