@@ -104,6 +104,200 @@ static void launchToggles(void)
     launch(toggles);
 }
 
+/* Bitmap buttons and toggles */
+
+enum { ICON = 16 };
+
+static int bitmaps = ZELGUI_INVALID_ID;
+
+/* A disk of one colour on magenta, which is made transparent. */
+static void drawDisk(unsigned char *rgb, unsigned char red, unsigned char green, unsigned char blue)
+{
+    int x, y;
+    for (y = 0; y < ICON; ++y) {
+        for (x = 0; x < ICON; ++x) {
+            const int dx = 2 * x + 1 - ICON, dy = 2 * y + 1 - ICON;
+            const int isInside = dx * dx + dy * dy < ICON * ICON;
+            *rgb++ = isInside ? red : 255;
+            *rgb++ = isInside ? green : 0;
+            *rgb++ = isInside ? blue : 255;
+        }
+    }
+}
+
+static void launchBitmaps(void)
+{
+    if (bitmaps == ZELGUI_INVALID_ID) {
+        unsigned char disk[ICON * ICON * 3];
+        int toggle;
+        bitmaps = makeDialog(3600, 500, "Bitmap buttons");
+        drawDisk(disk, 200, 40, 40);
+        ZelGUILabelAdd(bitmaps, 100, 80, "Buttons:");
+        ZelGUIBitmapButtonAdd(bitmaps, 1300, 50, 400, 180, ICON, ICON, disk, 1, 255, 0, 255, 0);
+        ZelGUIBitmapButtonAdd(bitmaps, 1800, 50, 400, 180, ICON, ICON, disk, 0, 0, 0, 0, 0);
+        drawDisk(disk, 40, 120, 60);
+        ZelGUILabelAdd(bitmaps, 100, 310, "Toggles:");
+        toggle = ZelGUIBitmapToggleAdd(bitmaps, 1300, 280, 400, 180, ICON, ICON, disk, 1, 255, 0, 255, 0);
+        ZelGUIToggleSet(toggle, 1);
+        ZelGUIBitmapToggleAdd(bitmaps, 1800, 280, 400, 180, ICON, ICON, disk, 1, 255, 0, 255, 0);
+    }
+    launch(bitmaps);
+}
+
+/* Radio boxes */
+
+static int radios = ZELGUI_INVALID_ID, radioState;
+
+static void radioChanged(const int *position)
+{
+    static const char *const texts[] = {"One blade", "Two blades", "Three blades"};
+    ZelGUILabelSetText(radioState, texts[*position - 1]);
+}
+
+static void launchRadios(void)
+{
+    if (radios == ZELGUI_INVALID_ID) {
+        int box;
+        radios = makeDialog(3600, 650, "Radio boxes");
+        box = ZelGUIRadioBoxAdd(radios, 100, 50, 1500, 420, "One", "Two", "Three", 0, 0, radioChanged);
+        ZelGUIRadioBoxSetToggle(box, 2);
+        ZelGUIRadioBoxAdd(radios, 1800, 50, 1500, 420, "Inlet", "Outlet", "Wall", 0, 0, 0);
+        radioState = ZelGUILabelAdd(radios, 100, 520, "Three blades");
+        ZelGUILabelSetText(radioState, "Two blades");
+    }
+    launch(radios);
+}
+
+/* Option menus */
+
+static int menus = ZELGUI_INVALID_ID, menu, menuState;
+
+static void menuChanged(const int *position)
+{
+    char *text = ZelGUIOptionMenuGetString(menu, *position);
+    ZelGUILabelSetText(menuState, text);
+    ZelUtilStringDealloc(&text);
+}
+
+static void launchMenus(void)
+{
+    if (menus == ZELGUI_INVALID_ID) {
+        menus = makeDialog(3600, 450, "Option menus");
+        ZelGUILabelAdd(menus, 100, 70, "Variable:");
+        menu = ZelGUIOptionMenuAdd(menus, 1300, 50, 2000, 140, "Pressure, Temperature", menuChanged);
+        ZelGUIOptionMenuAppendItem(menu, "Velocity (x, y, z)");
+        ZelGUIOptionMenuSet(menu, 3);
+        ZelGUILabelAdd(menus, 100, 270, "Chosen:");
+        menuState = ZelGUILabelAdd(menus, 1300, 270, "Velocity (x, y, z)");
+    }
+    launch(menus);
+}
+
+/* Text fields */
+
+static int fields = ZELGUI_INVALID_ID, angleField, pointField;
+
+static int checkAngle(const char *text)
+{
+    (void)text;
+    return ZelGUITextFieldValidateDouble(angleField, "Angle", 0, 360);
+}
+
+static int checkPoint(const char *text)
+{
+    (void)text;
+    return ZelGUITextFieldValidateLgIndex(pointField, "Point", 1, 1000, 1);
+}
+
+static void launchFields(void)
+{
+    if (fields == ZELGUI_INVALID_ID) {
+        int field;
+        fields = makeDialog(4500, 850, "Text fields");
+        ZelGUILabelAdd(fields, 100, 70, "Title:");
+        field = ZelGUITextFieldAdd(fields, 2000, 50, 2300, 140, 0);
+        ZelGUITextFieldSetString(field, "Wing at 12\xC2\xB0");
+        ZelGUILabelAdd(fields, 100, 270, "Angle (0 to 360):");
+        angleField = ZelGUITextFieldAdd(fields, 2000, 250, 2300, 140, checkAngle);
+        ZelGUITextFieldSetDouble(angleField, 12.5, "%.3f");
+        ZelGUILabelAdd(fields, 100, 470, "Point (1 to Mx):");
+        pointField = ZelGUITextFieldAdd(fields, 2000, 450, 2300, 140, checkPoint);
+        ZelGUITextFieldSetLgIndex(pointField, -3, 1);
+        ZelGUILabelAdd(fields, 100, 670, "Zones:");
+        field = ZelGUITextFieldAdd(fields, 2000, 650, 2300, 140, 0);
+        ZelGUITextFieldSetString(field, "[1-3,5,7-9]");
+    }
+    launch(fields);
+}
+
+/* Spin text fields */
+
+static int spins = ZELGUI_INVALID_ID, widthSpin, layerSpin;
+
+static void wider(void)
+{
+    ZelGUISpinTextFieldIncDouble(widthSpin, "%.1f", 0.1, 0, 10);
+}
+
+static void narrower(void)
+{
+    ZelGUISpinTextFieldIncDouble(widthSpin, "%.1f", -0.1, 0, 10);
+}
+
+static void nextLayer(void)
+{
+    ZelGUISpinTextFieldIncLgIndex(layerSpin, 1, 1, 40);
+}
+
+static void previousLayer(void)
+{
+    ZelGUISpinTextFieldIncLgIndex(layerSpin, -1, 1, 40);
+}
+
+static void launchSpins(void)
+{
+    if (spins == ZELGUI_INVALID_ID) {
+        spins = makeDialog(3600, 450, "Spin text fields");
+        ZelGUILabelAdd(spins, 100, 70, "Line width:");
+        widthSpin = ZelGUISpinTextFieldAdd(spins, 1900, 50, 1200, 140, 0, wider, narrower);
+        ZelGUITextFieldSetDouble(widthSpin, 0.4, "%.1f");
+        ZelGUILabelAdd(spins, 100, 270, "Layer (1 to 40):");
+        layerSpin = ZelGUISpinTextFieldAdd(spins, 1900, 250, 1200, 140, 0, nextLayer, previousLayer);
+        ZelGUITextFieldSetLgIndex(layerSpin, 7, 0);
+    }
+    launch(spins);
+}
+
+/* Multi-line text */
+
+static int texts = ZELGUI_INVALID_ID, commands;
+
+static void appendCommand(void)
+{
+    ZelGUITextAppendString(commands, "\niterate 100");
+}
+
+static void launchTexts(void)
+{
+    if (texts == ZELGUI_INVALID_ID) {
+        int report;
+        texts = makeDialog(4200, 1150, "Multi-line text");
+        ZelGUILabelAdd(texts, 100, 50, "Commands, in a font of fixed pitch:");
+        commands = ZelGUITextAdd(texts, 100, 180, 3900, 360, 0, 0);
+        ZelGUITextUseFixedPitchFont(commands, 1);
+        ZelGUITextAllowWordWrap(commands, 0);
+        ZelGUITextSetString(commands, "read  wing.grid\nset   mach 0.8");
+        ZelGUILabelAdd(texts, 100, 600, "Report, read-only:");
+        report = ZelGUITextAdd(texts, 100, 730, 3900, 360, 1, 0);
+        ZelGUITextAllowWordWrap(report, 1);
+        ZelGUITextSetString(report,
+                            "The residuals have fallen by four orders of magnitude. Lines that are too long are "
+                            "broken between words.");
+        ZelGUIDialogAddButtonToButtonBox(texts, "Append", 0, appendCommand);
+    }
+    launch(texts);
+}
+
 /* A modeless dialog */
 
 static int modeless = ZELGUI_INVALID_ID;
@@ -133,5 +327,11 @@ void ZelAddOnInit(void)
     ZelUtilAddOnRegister("Labels", "Text and numbers", launchLabels);
     ZelUtilAddOnRegister("Buttons", "Push buttons and colours", launchButtons);
     ZelUtilAddOnRegister("Toggles", "Check boxes", launchToggles);
+    ZelUtilAddOnRegister("Bitmap buttons", "Buttons and toggles with pictures", launchBitmaps);
+    ZelUtilAddOnRegister("Radio boxes", "One choice of a few", launchRadios);
+    ZelUtilAddOnRegister("Option menus", "One choice of many", launchMenus);
+    ZelUtilAddOnRegister("Text fields", "Text, numbers and sets", launchFields);
+    ZelUtilAddOnRegister("Spin text fields", "Numbers with arrows", launchSpins);
+    ZelUtilAddOnRegister("Multi-line text", "Text of several lines", launchTexts);
     ZelUtilAddOnRegister("Modeless dialog", "A dialog beside the host's other windows", launchModeless);
 }
