@@ -9,6 +9,8 @@
 #include <QDialog>
 #include <QProcess>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTimer>
 
 #include <cstdio>
@@ -64,6 +66,18 @@ QList<Trigger> triggers()
     const auto addField = [](int dialog) { return ZelGUITextFieldAdd(dialog, 1, 1, 1000, 100, reportText<Text>); };
     const auto addSpin = [](int dialog) {
         return ZelGUISpinTextFieldAdd(dialog, 1, 1, 1000, 100, reportText<Text>, report<Up>, report<Down>);
+    };
+    const auto addScale = [](int dialog) {
+        return ZelGUIScaleAdd(dialog, 100, 300, 1000, 100, 0, 9, 0, reportInt<Scale>, nullptr);
+    };
+    const auto addTabs = [](int dialog, ZelGUIIntCallback shown, ZelGUIIntCallback left) {
+        const int id = ZelGUITabAdd(dialog, 100, 300, 2000, 500, shown, left);
+        ZelGUITabAddPage(id, "One");
+        ZelGUITabAddPage(id, "Two");
+        return id;
+    };
+    const auto switchTab = [](QWidget *tab) {
+        QTest::keyClick(static_cast<QTabWidget *>(tab)->tabBar(), Qt::Key_Right);
     };
     // Rejecting, so that the field goes on with what is left of it.
     answer(Text) = 0;
@@ -125,6 +139,19 @@ QList<Trigger> triggers()
         {"spin text field, Return", Text, withWidget(addSpin, key(Qt::Key_Return))},
         {"spin text field, Tab", Text, withWidget(addSpin, key(Qt::Key_Tab))},
         {"spin up", Up, withWidget(addSpin, key(Qt::Key_Up))},
+        {"scale", Scale, withWidget(addScale, key(Qt::Key_Right))},
+        {"scale, dragged", Scale,
+         withWidget(addScale,
+                    [](QWidget *scale) {
+                        QTest::mousePress(scale, Qt::LeftButton, Qt::NoModifier, QPoint(5, scale->height() / 2));
+                        QTest::mouseMove(scale, QPoint(scale->width() / 2, scale->height() / 2));
+                    })},
+        {"scale, while it is made", Drag,
+         [](Scene &scene) { ZelGUIScaleAdd(scene.dialog, 100, 300, 1000, 100, 0, 9, 0, nullptr, reportInt<Drag>); }},
+        {"page left", PageLeft,
+         withWidget([=](int dialog) { return addTabs(dialog, nullptr, reportInt<PageLeft>); }, switchTab)},
+        {"page shown", PageShown,
+         withWidget([=](int dialog) { return addTabs(dialog, reportInt<PageShown>, nullptr); }, switchTab)},
         {"spin down", Down, withWidget(addSpin, key(Qt::Key_Down))},
         {"multi-line text", Text,
          withWidget([](int dialog) { return ZelGUITextAdd(dialog, 1, 1, 1000, 300, 0, reportText<Text>); },

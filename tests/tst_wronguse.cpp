@@ -50,6 +50,13 @@ void tst_WrongUse::initTestCase()
     m_objects << ZelGUITextFieldAdd(dialog, 100, 100, 1000, 100, nullptr);
     m_objects << ZelGUISpinTextFieldAdd(dialog, 100, 100, 1000, 100, nullptr, nullptr, nullptr);
     m_objects << ZelGUITextAdd(dialog, 100, 100, 1000, 500, 0, nullptr);
+    m_objects << ZelGUIScaleAdd(dialog, 100, 100, 1000, 100, 0, 9, 0, nullptr, nullptr);
+    m_objects << ZelGUIFormAdd(dialog, 100, 100, 1000, 500);
+    m_objects << ZelGUIFormAddPage(m_objects.last());
+    m_objects << ZelGUITabAdd(dialog, 100, 100, 1000, 500, nullptr, nullptr);
+    m_objects << ZelGUITabAddPage(m_objects.last(), "Page");
+    m_objects << ZelGUIFrameAdd(dialog, 100, 100, 1000, 500, "Frame");
+    m_objects << ZelGUIHorzSeparatorAdd(dialog, 100, 100, 1000);
     for (const int id : m_objects)
         QVERIFY(object<QObject>(id));
     const int doomed = createModal();

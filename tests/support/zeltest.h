@@ -15,7 +15,29 @@
 /// What add-on callbacks can be told apart by. They have no user data, so each is a function of its own.
 namespace Callback {
 Q_NAMESPACE
-enum Name { Init, Ok, Apply, Cancel, Close, Help, Extra, Push, OtherPush, Toggle, Radio, Option, Text, OtherText, Up, Down, NameCount };
+enum Name {
+    Init,
+    Ok,
+    Apply,
+    Cancel,
+    Close,
+    Help,
+    Extra,
+    Push,
+    OtherPush,
+    Toggle,
+    Radio,
+    Option,
+    Text,
+    OtherText,
+    Up,
+    Down,
+    Scale,
+    Drag,
+    PageShown,
+    PageLeft,
+    NameCount
+};
 Q_ENUM_NS(Name)
 
 /// What the library has reported since the test function began: "Ok", "Toggle 1".

@@ -168,6 +168,33 @@ ZELGUI_API void ZelGUIDialogSetPosition(int dialogId, int x, int y);
 
 /** @} */
 
+/** @name Any widget
+ * These work on every identifier: dialogs, widgets, pages and radio boxes, whose parts they reach all, and on menu
+ * items, of which ZelGUISetToolTip and ZelGUISetInputFocus do nothing.
+ * @{ */
+
+/** Sets what is shown when the mouse rests on a widget; UTF-8. Text that looks like markup is shown as rich text. */
+ZELGUI_API void ZelGUISetToolTip(int id, const char *text);
+
+/** Gives a widget the keyboard focus; of a radio box, its first button. */
+ZELGUI_API void ZelGUISetInputFocus(int id);
+
+/**
+ * Makes a widget or menu item respond to the user, or greys it out.
+ *
+ * @param sensitive  exactly 1: it responds
+ */
+ZELGUI_API void ZelGUISetSensitivity(int id, ZelBoolean sensitive);
+
+/**
+ * Shows or hides a widget or menu item. A scale takes its numeric display with it.
+ *
+ * @param visible  exactly 1: it is shown, once what contains it is
+ */
+ZELGUI_API void ZelGUISetVisibility(int id, ZelBoolean visible);
+
+/** @} */
+
 /** @name Push buttons
  * @{ */
 
@@ -533,6 +560,109 @@ ZELGUI_API void ZelGUITextAllowWordWrap(int textId, ZelBoolean allow);
 
 /** True: a font of fixed pitch; false: the font of the parent. The text's size stays. */
 ZELGUI_API void ZelGUITextUseFixedPitchFont(int textId, ZelBoolean use);
+
+/** @} */
+
+/** @name Scales
+ * A horizontal slider over whole numbers, with a numeric display of its value above it.
+ * @{ */
+
+/**
+ * Adds a scale at its minimum. Its display is one line high and stands above the place given, so leave room for it.
+ *
+ * @param minimum       the least value
+ * @param maximum       the greatest; minimum where it is below that, and at most 2147483647 above minimum
+ * @param decimals      not read
+ * @param valueChanged  called with each value that the user sets
+ * @param dragged       called at each step of a drag with the value before that step, and once with the minimum before
+ *                      this function returns
+ * @return  the scale's identifier
+ */
+ZELGUI_API int ZelGUIScaleAdd(int parentId, int x, int y, int width, int height, int minimum, int maximum, int decimals,
+                              ZelGUIIntCallback valueChanged, ZelGUIIntCallback dragged);
+
+/** The value; neutral -1. */
+ZELGUI_API int ZelGUIScaleGetValue(int scaleId);
+
+/** Sets the value, or the limit that it is beyond, without a report. */
+ZELGUI_API void ZelGUIScaleSetValue(int scaleId, int value);
+
+/**
+ * Sets the limits, first the minimum and then the maximum; each takes the other with it where it has to, and the value
+ * too, without a report.
+ *
+ * @param maximum  at most 2147483647 above minimum
+ */
+ZELGUI_API void ZelGUIScaleSetLimits(int scaleId, int minimum, int maximum);
+
+/**
+ * Shows or hides the numeric display.
+ *
+ * @param show  exactly 1: shown
+ */
+ZELGUI_API void ZelGUIScaleShowNumericDisplay(int scaleId, ZelBoolean show);
+
+/** @} */
+
+/** @name Forms
+ * A stack of pages, of which one is shown. A page is the parent of the widgets on it.
+ * @{ */
+
+/** Adds a form without pages. @return  its identifier */
+ZELGUI_API int ZelGUIFormAdd(int parentId, int x, int y, int width, int height);
+
+/** Adds a page, as large as the form; the first is shown. @return  the page's identifier */
+ZELGUI_API int ZelGUIFormAddPage(int formId);
+
+/** Shows a page in place of the others of its form. An identifier that is not a form's page changes nothing. */
+ZELGUI_API void ZelGUIFormSetCurrentPage(int pageId);
+
+/** @} */
+
+/** @name Tabs
+ * Pages under a row of tabs, between which the user switches. A page is the parent of the widgets on it.
+ * @{ */
+
+/**
+ * Adds a row of tabs without pages. The tabs stand above the place given: the whole reaches 25 pixels higher.
+ *
+ * @param pageActivated    called with the identifier of the page that the user has switched to
+ * @param pageDeactivated  called before that, with the identifier of the page reported before, the first one at first
+ * @return  the identifier of the whole
+ */
+ZELGUI_API int ZelGUITabAdd(int parentId, int x, int y, int width, int height, ZelGUIIntCallback pageActivated,
+                            ZelGUIIntCallback pageDeactivated);
+
+/**
+ * Adds a page; the first is shown.
+ *
+ * @param label  text of its tab, UTF-8
+ * @return  the page's identifier
+ */
+ZELGUI_API int ZelGUITabAddPage(int tabId, const char *label);
+
+/** Shows a page, without a report; one of another row of tabs changes nothing. */
+ZELGUI_API void ZelGUITabSetCurrentPage(int tabId, int pageId);
+
+/** @} */
+
+/** @name Frames and separators
+ * @{ */
+
+/**
+ * Adds a box around a group of widgets, behind those that are there already. It can be the parent of widgets, which
+ * are then placed from its own corner.
+ *
+ * @param title  UTF-8; NULL: no title. With a title, an empty one too, the box reaches 10 pixels higher.
+ * @return  the frame's identifier
+ */
+ZELGUI_API int ZelGUIFrameAdd(int parentId, int x, int y, int width, int height, const char *title);
+
+/** Adds a vertical line, one pixel wide. @return  its identifier */
+ZELGUI_API int ZelGUIVertSeparatorAdd(int parentId, int x, int y, int height);
+
+/** Adds a horizontal line, one pixel high. @return  its identifier */
+ZELGUI_API int ZelGUIHorzSeparatorAdd(int parentId, int x, int y, int width);
 
 /** @} */
 

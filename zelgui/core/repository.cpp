@@ -30,15 +30,23 @@ int ZelGUIWidgetRepository::addWidget(QObject *object)
     return id;
 }
 
+int ZelGUIWidgetRepository::idOf(const QObject *object) const
+{
+    // The object's name says where to look; it proves nothing, since the host may give names too.
+    bool isNumber = false;
+    const int id = object->objectName().toInt(&isNumber);
+    return isNumber && widget(id) == object ? id : kInvalidWidgetId;
+}
+
 void ZelGUIWidgetRepository::forget(QObject *root)
 {
-    const auto forgetOne = [this](QObject *object) {
-        const int id = object->objectName().toInt();
-        if (widget(id) == object)
+    const auto forgetOne = [this](const QObject *object) {
+        const int id = idOf(object);
+        if (id != kInvalidWidgetId)
             m_objects[static_cast<std::size_t>(id)].clear();
     };
     forgetOne(root);
-    for (QObject *const object : root->findChildren<QObject *>())
+    for (const QObject *const object : root->findChildren<QObject *>())
         forgetOne(object);
 }
 

@@ -37,6 +37,10 @@ public:
         return dynamic_cast<T *>(widget(id));
     }
 
+    /// The identifier of an object, or kInvalidWidgetId.
+    int idOf(const QObject *object) const;
+    bool isRegistered(const QObject *object) const { return idOf(object) != kInvalidWidgetId; }
+
     /// From now on the identifiers of `root` and of everything inside it answer as those of destroyed objects do.
     void forget(QObject *root);
 
