@@ -47,6 +47,7 @@
 
 #include <zvsdkbase/zelutil.h>
 
+/** Marks what the library exports. */
 #if defined(__GNUC__)
 #define ZELGUI_API __attribute__((visibility("default")))
 #else
@@ -608,10 +609,18 @@ ZELGUI_API void ZelGUIScaleShowNumericDisplay(int scaleId, ZelBoolean show);
  * A stack of pages, of which one is shown. A page is the parent of the widgets on it.
  * @{ */
 
-/** Adds a form without pages. @return  its identifier */
+/**
+ * Adds a form without pages.
+ *
+ * @return  the form's identifier
+ */
 ZELGUI_API int ZelGUIFormAdd(int parentId, int x, int y, int width, int height);
 
-/** Adds a page, as large as the form; the first is shown. @return  the page's identifier */
+/**
+ * Adds a page, as large as the form; the first is shown.
+ *
+ * @return  the page's identifier
+ */
 ZELGUI_API int ZelGUIFormAddPage(int formId);
 
 /** Shows a page in place of the others of its form. An identifier that is not a form's page changes nothing. */
@@ -658,42 +667,66 @@ ZELGUI_API void ZelGUITabSetCurrentPage(int tabId, int pageId);
  */
 ZELGUI_API int ZelGUIFrameAdd(int parentId, int x, int y, int width, int height, const char *title);
 
-/** Adds a vertical line, one pixel wide. @return  its identifier */
+/**
+ * Adds a vertical line, one pixel wide.
+ *
+ * @return  the line's identifier
+ */
 ZELGUI_API int ZelGUIVertSeparatorAdd(int parentId, int x, int y, int height);
 
-/** Adds a horizontal line, one pixel high. @return  its identifier */
+/**
+ * Adds a horizontal line, one pixel high.
+ *
+ * @return  the line's identifier
+ */
 ZELGUI_API int ZelGUIHorzSeparatorAdd(int parentId, int x, int y, int width);
 
 /** @} */
 
 /** @name Functions without effect
- * Kept so that add-ons which call them link and run. They read no argument; those with a result return the value
- * given.
+ * Kept so that add-ons which call them link and run. They read no argument.
  * @{ */
 
+/** Does nothing. */
 ZELGUI_API void ZelGUIBlockForModalDialog(ZelBoolean *done);
-/** ZELGUI_INVALID_ID: use ZelGUIButtonAdd and ZelGUIColoredButtonSetColor. */
+/** Returns ZELGUI_INVALID_ID: use ZelGUIButtonAdd and ZelGUIColoredButtonSetColor. */
 ZELGUI_API int ZelGUIColoredButtonAdd(int parentId, int x, int y, int width, int height, int color,
                                       ZelGUIVoidCallback callback);
+/** Does nothing. */
 ZELGUI_API void ZelGUIDialogApplySetSensitivity(int dialogId, ZelBoolean sensitive);
+/** Does nothing. */
 ZELGUI_API void ZelGUIDialogEnableActionArea(int dialogId, ZelBoolean enable);
+/** Does nothing. */
 ZELGUI_API void ZelGUIDialogSetLaunchPosition(int dialogId, int x, int y);
+/** Does nothing. */
 ZELGUI_API void ZelGUIDialogSetLaunchPositionX(int dialogId, int anchor, int x, int y);
+/** Does nothing. */
 ZELGUI_API void ZelGUIDialogSetPositionX(int dialogId, int anchor, int x, int y);
+/** Does nothing. */
 ZELGUI_API void ZelGUIDialogSetTopmost(int dialogId, ZelBoolean topmost);
+/** Does nothing. */
 ZELGUI_API void ZelGUILabelSetSet(int labelId, IndexSet set, ZelBoolean includeBrackets);
+/** Does nothing. */
 ZELGUI_API void ZelGUIOptionMenuReplaceItem(int menuId, const char *text, int position);
+/** Does nothing. */
 ZELGUI_API void ZelGUISetStatusLine(const char *text);
+/** Does nothing. */
 ZELGUI_API void ZelGUISidebarActivate(int sidebarId);
+/** Does nothing. */
 ZELGUI_API void ZelGUISidebarDeactivateAll(void);
-/** 0. */
+/** Returns 0. */
 ZELGUI_API ZelBoolean ZelGUISidebarIsActive(int sidebarId);
-/** ZELGUI_INVALID_ID. */
+/** Returns ZELGUI_INVALID_ID. */
 ZELGUI_API int ZelGUISidebarRegister(const char *name, ZelGUIVoidCallback activate, ZelGUIVoidCallback deactivate);
+/** Does nothing. */
 ZELGUI_API void ZelGUITextAddKeyEventCallback(int textId, ZelGUIIntCallback callback);
+/** Does nothing. */
 ZELGUI_API void ZelGUITextInsertString(int textId, const char *text);
+/** Does nothing. */
 ZELGUI_API void ZelGUITextSetInsertPos(int textId, int position);
+/** Does nothing. */
 ZELGUI_API void ZelGUITextSetMaxInsertPos(int textId, int position);
+/** Does nothing. */
 ZELGUI_API void ZelGUITextSetMinInsertPos(int textId, int position);
 
 /** @} */
