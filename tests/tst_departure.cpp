@@ -185,7 +185,13 @@ int play(const Trigger &trigger, Victim victim)
     const int nested =
         ZelGUIDialogCreateModal(scene.parent, 1000, 1000, "", report<OtherPush>, nullptr, nullptr, nullptr, nullptr);
 
+    // Inside the dialog: an identifier to be forgotten, and a field whose end is nothing to report.
+    const int inside = ZelGUIToggleAdd(scene.dialog, 100, 100, 1000, 100, "", nullptr);
+    ZelGUIToggleSet(inside, 1);
+
     bool isDestroyed = false;
+    bool isKept = false;
+    bool isForgotten = false;
     const auto destroy = [&] {
         if (victim == Victim::ParentDialog)
             delete parentWidget;
@@ -194,7 +200,10 @@ int play(const Trigger &trigger, Victim victim)
         else
             delete scene.mainWindow;
         isDestroyed = true;
-        // All of these identifiers have to answer as destroyed from here on.
+        // What dies with something else is kept while callbacks run, out of sight.
+        isKept = victim == Victim::OwnDialog || (scene.widget && !scene.widget->isVisible());
+        // All identifiers have to answer as destroyed from here on.
+        isForgotten = ZelGUIToggleGet(inside) == 0;
         ZelGUIDialogLaunch(scene.dialog);
         ZelGUIDialogDrop(scene.dialog);
         ZelGUIDialogDrop(nested);
@@ -210,12 +219,18 @@ int play(const Trigger &trigger, Victim victim)
     };
 
     if (trigger.callback == Init) {
+        // A dialog that is leaving is not shown any more, not even for a moment.
+        bool hasProcessedEvents = false;
+        QTimer::singleShot(0, qApp, [&] { hasProcessedEvents = true; });
         trigger.act(scene);
+        REQUIRE(!hasProcessedEvents || victim == Victim::NestedThenMainWindow);
     } else {
         QTimer::singleShot(0, qApp, [&] { trigger.act(scene); });
         ZelGUIDialogLaunch(scene.dialog);
     }
     REQUIRE(isDestroyed);
+    REQUIRE(isKept);
+    REQUIRE(isForgotten);
     REQUIRE(ZelGUIDialogIsUp(scene.dialog) == 0);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     REQUIRE(scene.widget.isNull());

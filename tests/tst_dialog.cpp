@@ -44,6 +44,7 @@ private Q_SLOTS:
     void launchOfModelessReturnsAtOnce();
     void launchInOwnCallback_data();
     void launchInOwnCallback();
+    void requestsInACallback();
     void dropInInitIsBeforeTheLaunch();
     void dropFromNestedModalDialog();
     void dropAndRelaunchFromNestedModalDialog();
@@ -214,7 +215,17 @@ void tst_Dialog::extraButtons()
 void tst_Dialog::extraButtonAsDefault()
 {
     const int id = createModal();
+    ZelGUIDialogAddButtonToButtonBox(id, "Former", 1, report<Apply>);
     ZelGUIDialogAddButtonToButtonBox(id, "Preset", 1, report<Extra>);
+    const auto *const box = object<QDialog>(id)->findChild<QDialogButtonBox *>();
+    for (QAbstractButton *const button : box->buttons()) {
+        const bool isPreset = button->text() == "Preset";
+        QCOMPARE(qobject_cast<QPushButton *>(button)->isDefault(), isPreset);
+        QCOMPARE(qobject_cast<QPushButton *>(button)->autoDefault(), isPreset);
+        QCOMPARE(button->focusPolicy(), Qt::StrongFocus);
+        if (isPreset)
+            QCOMPARE(box->buttonRole(button), QDialogButtonBox::ResetRole);
+    }
     whenModal(id, [&] {
         QTest::keyClick(object<QDialog>(id), Qt::Key_Enter);
         ZelGUIDialogDrop(id);
@@ -262,6 +273,33 @@ void tst_Dialog::launchInOwnCallback()
     ZelGUIDialogLaunch(id);
     QVERIFY(isUp);
     QCOMPARE(log(), QStringList({"Init", button == QLatin1String("OK") ? "Ok" : "Apply", "Init"}));
+}
+
+// The last request made inside a callback counts, and only for that callback.
+void tst_Dialog::requestsInACallback()
+{
+    const int id = createModal();
+    QDialog *const dialog = object<QDialog>(id);
+    QList<bool> stayedUp;
+    const auto pressOk = [&](const std::function<void()> &inCallback) {
+        action(Ok) = inCallback;
+        QTest::mouseClick(boxButton(dialog, "OK"), Qt::LeftButton);
+        stayedUp << ZelGUIDialogIsUp(id);
+    };
+    whenModal(id, [&] {
+        pressOk([id] {
+            ZelGUIDialogDrop(id);
+            ZelGUIDialogLaunch(id);
+        });
+        pressOk([id] { ZelGUIDialogDrop(id); });
+    });
+    ZelGUIDialogLaunch(id);
+    whenModal(id, [&] {
+        pressOk([] {});
+        ZelGUIDialogDrop(id);
+    });
+    ZelGUIDialogLaunch(id);
+    QCOMPARE(stayedUp, QList<bool>({true, false, true}));
 }
 
 void tst_Dialog::dropInInitIsBeforeTheLaunch()

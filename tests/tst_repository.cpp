@@ -6,9 +6,18 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <new>
+#include <stdexcept>
+
 using namespace Callback;
 
-/// Identifiers, and what they find.
+// Called in place of the host's.
+extern "C" void ZelUtilColorMapGetBasicColorRGB(int, unsigned char *, unsigned char *, unsigned char *)
+{
+    throw std::bad_alloc();
+}
+
+/// Identifiers, and what they find; exceptions on both sides of the library.
 class tst_Repository : public ZelTest
 {
     Q_OBJECT
@@ -17,6 +26,7 @@ private Q_SLOTS:
     void identifiersCountUpAcrossKinds();
     void destroyedObjectsAreNotFound();
     void callbackMayThrow();
+    void hostMayThrow();
 };
 
 void tst_Repository::identifiersCountUpAcrossKinds()
@@ -74,6 +84,13 @@ void tst_Repository::callbackMayThrow()
     };
     QTest::keyClick(object<QDialog>(dialog), Qt::Key_Escape);
     QCOMPARE(ZelGUIDialogIsUp(dialog), 0);
+}
+
+void tst_Repository::hostMayThrow()
+{
+    const int button = ZelGUIButtonAdd(createModal(), 100, 100, 1000, 100, "Button", nullptr);
+    ZelGUIColoredButtonSetColor(button, 1);
+    QCOMPARE(object<QPushButton>(button)->text(), QString("Button"));
 }
 
 ZELTEST_MAIN(tst_Repository)

@@ -28,6 +28,8 @@ private Q_SLOTS:
     void tableIsComplete();
     void identifiers_data();
     void identifiers();
+    void nullArguments_data() { identifiers_data(); }
+    void nullArguments();
 
 private:
     QVector<int> m_objects;
@@ -101,6 +103,19 @@ void tst_WrongUse::identifiers()
     for (const int id : wrong)
         QVERIFY2(entryPoint.call(id) == entryPoint.neutral, qPrintable(QString::number(id)));
     QCOMPARE(snapshot(), before);
+}
+
+// The right kind of object and null for every pointer. Comes last: it changes the objects.
+void tst_WrongUse::nullArguments()
+{
+    QFETCH(int, index);
+    const EntryPoint entryPoint = entryPoints().at(index);
+    if (QByteArray(entryPoint.name) == "ZelGUIDialogLaunch")
+        return;
+    for (const int id : m_objects) {
+        if (isAccepted(entryPoint, object<QObject>(id)))
+            entryPoint.call(id);
+    }
 }
 
 ZELTEST_MAIN(tst_WrongUse)

@@ -29,6 +29,8 @@ managed() { xdotool get_desktop >/dev/null 2>&1; }
 shown() { xdotool search --onlyvisible --name "^$1\$" >"$folder/window" 2>/dev/null; }
 gone() { ! shown "$1"; }
 active() { [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ]; }
+# Window managers are not always in time to give the focus back when a window closes; a user would click.
+activated() { active "$1" || { xdotool search --onlyvisible --name "^$1\$" windowactivate 2>/dev/null || true; false; }; }
 ended() { ! kill -0 "$host" 2>/dev/null; }
 
 # Clicks a place of a window in pixels from its left and upper edge, or, if negative, from its right and lower one.
@@ -48,14 +50,14 @@ open_dialog() {
     "$1" --dpi 96,96 --font 'DejaVu Sans,9' --report-leaks --launch "$2" "$3" &
     host=$!
     wait_until shown "$2"
-    wait_until active "$2"
+    wait_until activated "$2"
 }
 
 # The dialog has to be gone and the host still there; then ends the host, which must have nothing to complain of.
 end_host_without() {
     wait_until gone "$1"
     ended && { echo "The host has ended with the dialog"; exit 1; }
-    wait_until active zelhost
+    wait_until activated zelhost
     xdotool key alt+F4
     wait_until ended
     wait "$host" || { echo "The host fails with $?"; exit 1; }

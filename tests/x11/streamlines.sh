@@ -28,12 +28,12 @@ type_bad_step() {
 open_dialog "$1" "$dialog" "$2"
 type_bad_step
 xdotool key Tab
-dismiss_message active "$dialog"
+dismiss_message activated "$dialog"
 # Neither Tab nor Return leaves it, edited or not.
 xdotool key Tab
-dismiss_message active "$dialog"
+dismiss_message activated "$dialog"
 xdotool key Return
-dismiss_message active "$dialog"
+dismiss_message activated "$dialog"
 # The rejected text is selected, so that typing replaces it.
 xdotool type 0.5
 xdotool key Tab
@@ -43,7 +43,7 @@ no_message
 xdotool key ctrl+a
 xdotool type MX-100000
 xdotool key Tab
-dismiss_message active "$dialog"
+dismiss_message activated "$dialog"
 xdotool type 100
 xdotool key Up Return
 end_host_without "$dialog"
