@@ -7,6 +7,8 @@
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QDialog>
+#include <QMenu>
+#include <QMenuBar>
 #include <QProcess>
 #include <QPushButton>
 #include <QTabBar>
@@ -54,6 +56,27 @@ std::function<void(Scene &)> withWidget(Add add, Act act)
     };
 }
 
+/// Adds a menu bar with a menu and a sub-menu to the visible dialog, puts an entry into the latter by `add`, opens the
+/// menus by mouse and keyboard, and does as the user would.
+template <typename Add, typename Act>
+std::function<void(Scene &)> withMenu(Add add, Act act)
+{
+    return [=](Scene &scene) {
+        const int barId = ZelGUIMenuBarAdd(scene.dialog);
+        const int subMenuId = ZelGUIMenuAdd(ZelGUIMenuAdd(barId, "Menu"), "Sub-menu");
+        const int entry = add(subMenuId);
+        auto *const bar = scene.widget->findChild<QMenuBar *>(QString::number(barId));
+        auto *const subMenu = scene.widget->findChild<QMenu *>(QString::number(subMenuId));
+        if (!QTest::qWaitFor([bar] { return bar->isVisible(); }) || !ZelTest::waitUntilActive(scene.widget))
+            return;
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(bar->actions().first()).center());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Right);
+        if (QTest::qWaitFor([subMenu] { return subMenu->isVisible(); }))
+            act(subMenu, entry);
+    };
+}
+
 QList<Trigger> triggers()
 {
     const auto press = [](const char *text) {
@@ -79,6 +102,14 @@ QList<Trigger> triggers()
     const auto switchTab = [](QWidget *tab) {
         QTest::keyClick(static_cast<QTabWidget *>(tab)->tabBar(), Qt::Key_Right);
     };
+    const auto addItem = [](int menu) { return ZelGUIMenuAddItem(menu, "Item", nullptr, report<MenuItem>); };
+    const auto addMenuToggle = [](int menu) {
+        return ZelGUIMenuAddToggle(menu, "Toggle", nullptr, reportInt<MenuToggle>);
+    };
+    const auto clickEntry = [](QMenu *menu, int) {
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions().first()).center());
+    };
+    const auto chooseEntry = [](QMenu *menu, int) { QTest::keyClick(menu, Qt::Key_Return); };
     // Rejecting, so that the field goes on with what is left of it.
     answer(Text) = 0;
     return {
@@ -156,6 +187,12 @@ QList<Trigger> triggers()
         {"multi-line text", Text,
          withWidget([](int dialog) { return ZelGUITextAdd(dialog, 1, 1, 1000, 300, 0, reportText<Text>); },
                     key(Qt::Key_A))},
+        {"menu item, clicked", MenuItem, withMenu(addItem, clickEntry)},
+        {"menu item, Return", MenuItem, withMenu(addItem, chooseEntry)},
+        {"menu toggle, clicked", MenuToggle, withMenu(addMenuToggle, clickEntry)},
+        {"menu toggle, Return", MenuToggle, withMenu(addMenuToggle, chooseEntry)},
+        {"menu toggle, set by the add-on", MenuToggle,
+         withMenu(addMenuToggle, [](QMenu *, int toggle) { ZelGUIMenuSetToggle(toggle, 1); })},
     };
 }
 

@@ -59,6 +59,10 @@ void tst_WrongUse::initTestCase()
     m_objects << ZelGUITabAddPage(m_objects.last(), "Page");
     m_objects << ZelGUIFrameAdd(dialog, 100, 100, 1000, 500, "Frame");
     m_objects << ZelGUIHorzSeparatorAdd(dialog, 100, 100, 1000);
+    const int bar = ZelGUIMenuBarAdd(dialog);
+    const int menu = ZelGUIMenuAdd(bar, "Menu");
+    m_objects << bar << menu << ZelGUIMenuAddItem(menu, "Item", nullptr, nullptr);
+    m_objects << ZelGUIMenuAddToggle(menu, "Toggle", nullptr, nullptr);
     for (const int id : m_objects)
         QVERIFY(object<QObject>(id));
     const int doomed = createModal();

@@ -298,6 +298,59 @@ static void launchTexts(void)
     launch(texts);
 }
 
+/* Menu bars */
+
+static int menuBars = ZELGUI_INVALID_ID, legendItem, menuBarState;
+
+static void openFile(void)
+{
+    ZelGUILabelSetText(menuBarState, "Open was chosen.");
+}
+
+static void exportImage(void)
+{
+    ZelGUILabelSetText(menuBarState, "Export / Image was chosen.");
+}
+
+static void exportTable(void)
+{
+    ZelGUILabelSetText(menuBarState, "Export / Table was chosen.");
+}
+
+static void legendChanged(const int *isOn)
+{
+    ZelGUILabelSetText(menuBarState, *isOn ? "The legend is shown." : "The legend is hidden.");
+}
+
+static void hideLegend(void)
+{
+    ZelGUIMenuSetToggle(legendItem, 0);
+}
+
+static void launchMenuBars(void)
+{
+    if (menuBars == ZELGUI_INVALID_ID) {
+        int bar, file, export, view;
+        menuBars = makeDialog(3600, 650, "Menus");
+        ZelGUILabelAdd(menuBars, 100, 50, "This was here before the bar.");
+        menuBarState = ZelGUILabelAdd(menuBars, 100, 200, "Export / Image was chosen.");
+        ZelGUIButtonAdd(menuBars, 100, 400, 1500, 130, "&Hide legend", hideLegend);
+        bar = ZelGUIMenuBarAdd(menuBars);
+        file = ZelGUIMenuAdd(bar, "&File");
+        ZelGUIMenuAddItem(file, "&Open...", 0, openFile);
+        export = ZelGUIMenuAdd(file, "&Export");
+        ZelGUIMenuAddItem(export, "&Image", 0, exportImage);
+        ZelGUIMenuAddItem(export, "&Table", 0, exportTable);
+        ZelGUIMenuAddSeparator(file);
+        ZelGUIMenuAddItem(file, "&Close", 0, dropCurrent);
+        view = ZelGUIMenuAdd(bar, "&View");
+        legendItem = ZelGUIMenuAddToggle(view, "&Legend", 0, legendChanged);
+        ZelGUIMenuAddToggle(view, "&Axes", 0, 0);
+        ZelGUIMenuSetToggle(legendItem, 1);
+    }
+    launch(menuBars);
+}
+
 /* A modeless dialog */
 
 static int modeless = ZELGUI_INVALID_ID;
@@ -333,5 +386,6 @@ void ZelAddOnInit(void)
     ZelUtilAddOnRegister("Text fields", "Text, numbers and sets", launchFields);
     ZelUtilAddOnRegister("Spin text fields", "Numbers with arrows", launchSpins);
     ZelUtilAddOnRegister("Multi-line text", "Text of several lines", launchTexts);
+    ZelUtilAddOnRegister("Menus", "Menu bar, sub-menu, items, toggles", launchMenuBars);
     ZelUtilAddOnRegister("Modeless dialog", "A dialog beside the host's other windows", launchModeless);
 }

@@ -36,6 +36,8 @@ enum Name {
     Drag,
     PageShown,
     PageLeft,
+    MenuItem,
+    MenuToggle,
     NameCount
 };
 Q_ENUM_NS(Name)

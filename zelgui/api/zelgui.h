@@ -683,6 +683,71 @@ ZELGUI_API int ZelGUIHorzSeparatorAdd(int parentId, int x, int y, int width);
 
 /** @} */
 
+/** @name Menus
+ * A menu bar at the upper edge of a dialog, with menus, sub-menus and their entries. Texts are Latin-1; an ampersand
+ * before a letter makes that letter the mnemonic: with Alt for a menu of the bar, by itself in an open menu.
+ * @{ */
+
+/**
+ * Adds an empty menu bar to a dialog, visible or not. The dialog becomes 30 pixels higher, and everything inside it
+ * moves down by 30 pixels within its own parent: a label in a frame ends 60 pixels lower, 30 with the frame and 30
+ * within it. A dialog that has this one as its parent counts as inside it. What is added afterwards is not moved: add
+ * the bar last, or leave room for it. In a visible dialog, the bar shows itself.
+ *
+ * A second bar does all of this again; the first then stays where it has been moved to.
+ *
+ * @return  the menu bar's identifier
+ */
+ZELGUI_API int ZelGUIMenuBarAdd(int dialogId);
+
+/**
+ * Adds an empty menu at the end of a menu bar, or a sub-menu at the end of a menu.
+ *
+ * @param parentId  a menu bar or a menu
+ * @return  the menu's identifier
+ */
+ZELGUI_API int ZelGUIMenuAdd(int parentId, const char *label);
+
+/**
+ * Adds an item at the end of a menu.
+ *
+ * @param menuId      a menu; a menu bar takes no items
+ * @param statusText  not read
+ * @param callback    called each time the item is chosen
+ * @return  the item's identifier
+ */
+ZELGUI_API int ZelGUIMenuAddItem(int menuId, const char *label, const char *statusText, ZelGUIVoidCallback callback);
+
+/**
+ * Adds an item with a check mark at the end of a menu, unchecked.
+ *
+ * @param menuId      a menu; a menu bar takes no items
+ * @param statusText  not read
+ * @param callback    called with 1 when the item has been checked and 0 when unchecked, by the user or by
+ *                    ZelGUIMenuSetToggle
+ * @return  the item's identifier
+ */
+ZELGUI_API int ZelGUIMenuAddToggle(int menuId, const char *label, const char *statusText, ZelGUIIntCallback callback);
+
+/** Adds a separating line at the end of a menu. It has no identifier. */
+ZELGUI_API void ZelGUIMenuAddSeparator(int menuId);
+
+/** Takes an item or toggle out of its menu for good; its identifier stays valid. Menus can't be taken out. */
+ZELGUI_API void ZelGUIMenuDeleteItem(int itemId);
+
+/** Sets the text, Latin-1, of an item or toggle. */
+ZELGUI_API void ZelGUIMenuItemSetText(int itemId, const char *text);
+
+/**
+ * Checks or unchecks a menu's toggle. Unlike other functions that set a value, this one reports: if the toggle was not
+ * like that already, its callback runs before this call returns.
+ *
+ * @param checked  exactly 1: checked
+ */
+ZELGUI_API void ZelGUIMenuSetToggle(int itemId, ZelBoolean checked);
+
+/** @} */
+
 /** @name Functions without effect
  * Kept so that add-ons which call them link and run. They read no argument.
  * @{ */

@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: MIT
+#include "support/zeltest.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QMenu>
+#include <QMenuBar>
+
+using namespace Callback;
+
+/// Menus as a user works them, by mouse and by keyboard.
+class tst_Menu : public ZelTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void identifiers();
+    void texts();
+    void mouse();
+    void toggleByMouse();
+    void keyboard_data();
+    void keyboard();
+    void deletedItem();
+    void deletedInItsCallback();
+    void setToggle();
+    void setToggleInCallback();
+    void dropInCallback();
+
+private:
+    void clickTitle(int place);
+    static void clickEntry(QMenu *menu, int place);
+
+    int m_dialog = -2;
+    int m_file = -2;
+    int m_item = -2;
+    int m_toggle = -2;
+    int m_view = -2;
+    int m_subMenu = -2;
+    QMenuBar *m_bar = nullptr;
+};
+
+/// A visible dialog with the menus File (Open, a line, Lock) and View (Zoom, which is a sub-menu: In, Out).
+void tst_Menu::init()
+{
+    ZelTest::init();
+    m_dialog = launchModeless();
+    const int bar = ZelGUIMenuBarAdd(m_dialog);
+    m_file = ZelGUIMenuAdd(bar, "&File");
+    m_item = ZelGUIMenuAddItem(m_file, "&Open", "not read", report<MenuItem>);
+    ZelGUIMenuAddSeparator(m_file);
+    m_toggle = ZelGUIMenuAddToggle(m_file, "&Lock", nullptr, reportInt<MenuToggle>);
+    m_view = ZelGUIMenuAdd(bar, "&View");
+    m_subMenu = ZelGUIMenuAdd(m_view, "&Zoom");
+    ZelGUIMenuAddItem(m_subMenu, "&In", nullptr, report<Up>);
+    ZelGUIMenuAddItem(m_subMenu, "&Out", nullptr, report<Down>);
+    m_bar = object<QMenuBar>(bar);
+    // The toolkit shows it when the event loop comes round.
+    QVERIFY(QTest::qWaitFor([this] { return m_bar->isVisible(); }));
+    QCOMPARE(log(), QStringList());
+}
+
+void tst_Menu::clickTitle(int place)
+{
+    QTest::mouseClick(m_bar, Qt::LeftButton, {}, m_bar->actionGeometry(m_bar->actions().at(place)).center());
+}
+
+void tst_Menu::clickEntry(QMenu *menu, int place)
+{
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions().at(place)).center());
+}
+
+void tst_Menu::identifiers()
+{
+    const int bar = m_bar->objectName().toInt();
+    QCOMPARE(QVector<int>({m_file, m_item, m_toggle, m_view, m_subMenu}),
+             QVector<int>({bar + 1, bar + 2, bar + 3, bar + 4, bar + 5}));
+    QCOMPARE(m_bar->actions(),
+             QList<QAction *>({object<QMenu>(m_file)->menuAction(), object<QMenu>(m_view)->menuAction()}));
+    QCOMPARE(object<QMenu>(m_view)->actions(), QList<QAction *>({object<QMenu>(m_subMenu)->menuAction()}));
+    const auto entries = object<QMenu>(m_file)->actions();
+    QCOMPARE(entries.size(), 3);
+    QVERIFY(entries[1]->isSeparator());
+    // Items can't stand in the bar itself.
+    QCOMPARE(ZelGUIMenuAddItem(bar, "Item", nullptr, nullptr), -2);
+    QCOMPARE(ZelGUIMenuAddToggle(bar, "Toggle", nullptr, nullptr), -2);
+    QCOMPARE(m_bar->actions().size(), 2);
+}
+
+void tst_Menu::texts()
+{
+    QCOMPARE(object<QMenu>(ZelGUIMenuAdd(m_view, " Gr\xF6\xDF"
+                                                 "e "))
+                 ->title(),
+             QString::fromUtf8(" Größe "));
+    QCOMPARE(object<QAction>(ZelGUIMenuAddToggle(m_file, "\xC4 ", nullptr, nullptr))->text(), QString::fromUtf8("Ä "));
+    ZelGUIMenuItemSetText(m_item, "\xD6"
+                                  "ffnen");
+    QCOMPARE(object<QAction>(m_item)->text(), QString::fromUtf8("Öffnen"));
+    ZelGUIMenuItemSetText(m_item, nullptr);
+    QCOMPARE(object<QAction>(m_item)->text(), QString());
+    // The title of a menu is no item's text.
+    ZelGUIMenuItemSetText(m_file, "Item");
+    QCOMPARE(object<QMenu>(m_file)->title(), QStringLiteral("&File"));
+}
+
+void tst_Menu::mouse()
+{
+    clickTitle(0);
+    clickEntry(object<QMenu>(m_file), 0);
+    QCOMPARE(log(), QStringList({"MenuItem"}));
+    QVERIFY(!QApplication::activePopupWidget());
+
+    clickTitle(1);
+    clickEntry(object<QMenu>(m_view), 0);
+    QTRY_VERIFY(object<QMenu>(m_subMenu)->isVisible());
+    clickEntry(object<QMenu>(m_subMenu), 1);
+    QCOMPARE(log(), QStringList({"MenuItem", "Down"}));
+}
+
+void tst_Menu::toggleByMouse()
+{
+    QVERIFY(!object<QAction>(m_toggle)->isChecked());
+    for (int i = 0; i < 2; ++i) {
+        clickTitle(0);
+        clickEntry(object<QMenu>(m_file), 2);
+    }
+    QCOMPARE(log(), QStringList({"MenuToggle 1", "MenuToggle 0"}));
+}
+
+void tst_Menu::keyboard_data()
+{
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<QStringList>("reports");
+    QTest::newRow("mnemonics") << QStringList({"Alt+F", "O"}) << QStringList({"MenuItem"});
+    QTest::newRow("arrows skip the line") << QStringList({"Alt+F", "Down", "Return"}) << QStringList({"MenuToggle 1"});
+    QTest::newRow("toggled twice") << QStringList({"Alt+F", "L", "Alt+F", "Up", "Return"})
+                                   << QStringList({"MenuToggle 1", "MenuToggle 0"});
+    QTest::newRow("sub-menu, mnemonics") << QStringList({"Alt+V", "Z", "O"}) << QStringList({"Down"});
+    QTest::newRow("sub-menu, arrows") << QStringList({"Alt+F", "Right", "Right", "Return"}) << QStringList({"Up"});
+    // They close the menu and leave the bar; the dialog stays.
+    QTest::newRow("Escape") << QStringList({"Alt+F", "Esc", "Esc"}) << QStringList();
+}
+
+void tst_Menu::keyboard()
+{
+    QFETCH(QStringList, keys);
+    QFETCH(QStringList, reports);
+    for (const QString &key : keys) {
+        QWidget *const popup = QApplication::activePopupWidget();
+        QWidget *const focus = QApplication::focusWidget();
+        QTest::keySequence(popup ? popup : focus ? focus : object<QWidget>(m_dialog), QKeySequence(key));
+    }
+    QCOMPARE(log(), reports);
+    QCOMPARE(ZelGUIDialogIsUp(m_dialog), ZelBoolean{1});
+}
+
+void tst_Menu::deletedItem()
+{
+    ZelGUIMenuDeleteItem(m_item);
+    ZelGUIMenuDeleteItem(m_item);
+    ZelGUIMenuDeleteItem(m_file);
+    ZelGUIMenuDeleteItem(m_toggle);
+    QCOMPARE(object<QMenu>(m_file)->actions().size(), 1);
+    QCOMPARE(m_bar->actions().size(), 2);
+    // Both can still be reached.
+    ZelGUIMenuItemSetText(m_item, "Unseen");
+    QCOMPARE(object<QAction>(m_item)->text(), QStringLiteral("Unseen"));
+    ZelGUIMenuSetToggle(m_toggle, 1);
+    QCOMPARE(log(), QStringList({"MenuToggle 1"}));
+}
+
+void tst_Menu::deletedInItsCallback()
+{
+    action(MenuItem) = [this] { ZelGUIMenuDeleteItem(m_item); };
+    clickTitle(0);
+    clickEntry(object<QMenu>(m_file), 0);
+    QCOMPARE(log(), QStringList({"MenuItem"}));
+    QCOMPARE(object<QMenu>(m_file)->actions().size(), 2);
+}
+
+void tst_Menu::setToggle()
+{
+    ZelGUIMenuSetToggle(m_toggle, 1);
+    ZelGUIMenuSetToggle(m_toggle, 1);
+    QCOMPARE(log(), QStringList({"MenuToggle 1"}));
+    ZelGUIMenuSetToggle(m_toggle, 2);
+    ZelGUIMenuSetToggle(m_toggle, 0);
+    QCOMPARE(log(), QStringList({"MenuToggle 1", "MenuToggle 0"}));
+    // An item has nothing to check.
+    ZelGUIMenuSetToggle(m_item, 1);
+    QVERIFY(!object<QAction>(m_item)->isChecked());
+    QCOMPARE(log().size(), 2);
+}
+
+void tst_Menu::setToggleInCallback()
+{
+    action(MenuToggle) = [this] { ZelGUIMenuSetToggle(m_toggle, 0); };
+    for (int i = 0; i < 2; ++i) {
+        clickTitle(0);
+        clickEntry(object<QMenu>(m_file), 2);
+    }
+    QCOMPARE(log(), QStringList({"MenuToggle 1", "MenuToggle 0", "MenuToggle 1", "MenuToggle 0"}));
+}
+
+void tst_Menu::dropInCallback()
+{
+    action(MenuItem) = [this] { ZelGUIDialogDrop(m_dialog); };
+    QTest::keyClick(object<QWidget>(m_dialog), Qt::Key_F, Qt::AltModifier);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_O);
+    QCOMPARE(ZelGUIDialogIsUp(m_dialog), ZelBoolean{0});
+    action(MenuItem) = nullptr;
+    ZelGUIDialogLaunch(m_dialog);
+    QVERIFY(waitUntilActive(object<QWidget>(m_dialog)));
+    QTest::keyClick(object<QWidget>(m_dialog), Qt::Key_F, Qt::AltModifier);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_O);
+    QCOMPARE(log(), QStringList({"MenuItem", "Init", "MenuItem"}));
+}
+
+ZELTEST_MAIN(tst_Menu)
+#include "tst_menu.moc"
