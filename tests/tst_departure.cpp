@@ -110,6 +110,12 @@ QList<Trigger> triggers()
         QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions().first()).center());
     };
     const auto chooseEntry = [](QMenu *menu, int) { QTest::keyClick(menu, Qt::Key_Return); };
+    const auto addList = [](int dialog) {
+        const int list = ZelGUIListAdd(dialog, 1, 1, 1000, 300, 1, reportList<List>);
+        ZelGUIListAppendItem(list, "A");
+        ZelGUIListAppendItem(list, "B");
+        return list;
+    };
     // Rejecting, so that the field goes on with what is left of it.
     answer(Text) = 0;
     return {
@@ -159,6 +165,13 @@ QList<Trigger> triggers()
                         QTest::keyClick(list, Qt::Key_Down);
                         QTest::keyClick(list, Qt::Key_Return);
                     })},
+        {"list, clicked", List,
+         withWidget(addList,
+                    [](QWidget *list) {
+                        QTest::mouseClick(static_cast<QAbstractItemView *>(list)->viewport(), Qt::LeftButton, {},
+                                          QPoint(5, 5));
+                    })},
+        {"list, by key", List, withWidget(addList, key(Qt::Key_Down))},
         {"text field, Return", Text, withWidget(addField, key(Qt::Key_Return))},
         {"text field, Tab", Text, withWidget(addField, key(Qt::Key_Tab))},
         {"text field, other clicked", Text,

@@ -66,6 +66,11 @@ void tst_WrongUse::initTestCase()
     const int menu = ZelGUIMenuAdd(bar, "Menu");
     m_objects << bar << menu << ZelGUIMenuAddItem(menu, "Item", nullptr, nullptr);
     m_objects << ZelGUIMenuAddToggle(menu, "Toggle", nullptr, nullptr);
+    const int list = ZelGUIListAdd(dialog, 100, 100, 1000, 500, 1, nullptr);
+    ZelGUIListAppendItem(list, "A");
+    ZelGUIListAppendItem(list, "B");
+    ZelGUIListSetSelectedItem(list, 2);
+    m_objects << list;
     for (const int id : m_objects)
         QVERIFY(object<QObject>(id));
     const int doomed = createModal();

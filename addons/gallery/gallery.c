@@ -351,6 +351,60 @@ static void launchMenuBars(void)
     launch(menuBars);
 }
 
+/* Lists */
+
+static int lists = ZELGUI_INVALID_ID, zoneList, zoneState;
+
+static void noteZoneCount(void)
+{
+    int *zones = 0, zoneCount = 0;
+    ZelGUIListGetSelectedItems(zoneList, &zones, &zoneCount);
+    ZelGUILabelSetDouble(zoneState, zoneCount, "%.0f selected");
+    /* Arrays are released as strings are. */
+    ZelUtilStringDealloc((char **)&zones);
+}
+
+static void zonesChanged(const int *positions)
+{
+    (void)positions;
+    noteZoneCount();
+}
+
+static void selectAllZones(void)
+{
+    ZelGUIListSelectAllItems(zoneList);
+    noteZoneCount();
+}
+
+static void launchLists(void)
+{
+    if (lists == ZELGUI_INVALID_ID) {
+        static const char *const zones[] = {"Wing", "Slat", "Flap", "Fuselage", "Nacelle", "Pylon", "Farfield"};
+        static const int first[] = {1, 3};
+        int list, i;
+        StringList_s *solvers = ZelUtilStringListAlloc();
+        ZelUtilStringListAppendString(solvers, "Inviscid");
+        ZelUtilStringListAppendString(solvers, "Laminar");
+        ZelUtilStringListAppendString(solvers, "Turbulent");
+        lists = makeDialog(4200, 950, "Lists");
+        ZelGUILabelAdd(lists, 100, 50, "Solver:");
+        list = ZelGUIListAdd(lists, 100, 180, 1900, 560, 0, 0);
+        ZelGUIListSetItems(list, solvers);
+        ZelUtilStringListDealloc(&solvers);
+        ZelGUIListAppendItem(list, "Large eddies (\xCE\x94 = 2h)");
+        ZelGUIListSetSelectedItem(list, 3);
+        ZelGUILabelAdd(lists, 2200, 50, "Zones:");
+        zoneList = ZelGUIListAdd(lists, 2200, 180, 1900, 560, 1, zonesChanged);
+        for (i = 0; i < (int)(sizeof zones / sizeof *zones); ++i)
+            ZelGUIListAppendItem(zoneList, zones[i]);
+        ZelGUIListSetSelectedItems(zoneList, first, 2);
+        zoneState = ZelGUILabelAdd(lists, 2200, 790, "0000000 selected");
+        noteZoneCount();
+        ZelGUIDialogAddButtonToButtonBox(lists, "All zones", 0, selectAllZones);
+    }
+    launch(lists);
+}
+
 /* A modeless dialog */
 
 static int modeless = ZELGUI_INVALID_ID;
@@ -387,5 +441,6 @@ void ZelAddOnInit(void)
     ZelUtilAddOnRegister("Spin text fields", "Numbers with arrows", launchSpins);
     ZelUtilAddOnRegister("Multi-line text", "Text of several lines", launchTexts);
     ZelUtilAddOnRegister("Menus", "Menu bar, sub-menu, items, toggles", launchMenuBars);
+    ZelUtilAddOnRegister("Lists", "Any number of choices", launchLists);
     ZelUtilAddOnRegister("Modeless dialog", "A dialog beside the host's other windows", launchModeless);
 }

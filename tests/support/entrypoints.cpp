@@ -66,6 +66,18 @@ QString readSet(int id)
     return QStringLiteral("%1 %2").arg(isRead).arg(isUntouched ? "untouched" : "new");
 }
 
+QString readSelection(int id)
+{
+    int untouched = 0;
+    int *selected = &untouched;
+    int count = 77;
+    ZelGUIListGetSelectedItems(id, &selected, &count);
+    const bool isUntouched = selected == &untouched;
+    if (!isUntouched)
+        ZelUtilStringDealloc(reinterpret_cast<char **>(&selected));
+    return QStringLiteral("%1 %2").arg(count).arg(isUntouched ? "untouched" : "new");
+}
+
 } // namespace
 
 QVector<EntryPoint> entryPoints()
@@ -77,6 +89,28 @@ QVector<EntryPoint> entryPoints()
         {"ZelGUIBitmapToggleAdd", "QWidget",
          number([](int id) { return ZelGUIBitmapToggleAdd(id, 1, 1, 1, 1, -8, 8, nullptr, 1, 0, 0, 0, nullptr); }),
          kNone},
+        {"ZelGUIListAdd", "QWidget", number([](int id) { return ZelGUIListAdd(id, 1, 1, 1, 1, 1, nullptr); }), kNone},
+        {"ZelGUIListAppendItem", "QListWidget", silent([](int id) { ZelGUIListAppendItem(id, nullptr); }), {}},
+        {"ZelGUIListDeleteAllItems", "QListWidget", silent([](int id) { ZelGUIListDeleteAllItems(id); }), {}},
+        {"ZelGUIListDeleteItemAtPos", "QListWidget", silent([](int id) { ZelGUIListDeleteItemAtPos(id, 1); }), {}},
+        {"ZelGUIListDeselectAllItems", "QListWidget", silent([](int id) { ZelGUIListDeselectAllItems(id); }), {}},
+        {"ZelGUIListGetCapacity", "QListWidget", number([](int id) { return ZelGUIListGetCapacity(id); }), kMinusOne},
+        {"ZelGUIListGetItemCount", "QListWidget", number([](int id) { return ZelGUIListGetItemCount(id); }), kNone},
+        {"ZelGUIListGetSelectedItem", "QListWidget", number([](int id) { return ZelGUIListGetSelectedItem(id); }),
+         kMinusOne},
+        {"ZelGUIListGetSelectedItems", "QListWidget", readSelection, QStringLiteral("77 untouched")},
+        {"ZelGUIListGetString", "QListWidget", text([](int id) { return ZelGUIListGetString(id, 1); }), kNull},
+        {"ZelGUIListGetTopItemNum", "QListWidget", number([](int id) { return ZelGUIListGetTopItemNum(id); }),
+         kMinusOne},
+        {"ZelGUIListReplaceItem", "QListWidget", silent([](int id) { ZelGUIListReplaceItem(id, nullptr, 1); }), {}},
+        {"ZelGUIListSelectAllItems", "QListWidget", silent([](int id) { ZelGUIListSelectAllItems(id); }), {}},
+        {"ZelGUIListSetItems", "QListWidget", silent([](int id) { ZelGUIListSetItems(id, nullptr); }), {}},
+        {"ZelGUIListSetSelectedItem", "QListWidget", silent([](int id) { ZelGUIListSetSelectedItem(id, 1); }), {}},
+        {"ZelGUIListSetSelectedItems",
+         "QListWidget",
+         silent([](int id) { ZelGUIListSetSelectedItems(id, nullptr, 9); }),
+         {}},
+        {"ZelGUIListSetTopItemNum", "QListWidget", silent([](int id) { ZelGUIListSetTopItemNum(id, 1); }), {}},
         {"ZelGUIOptionMenuAdd", "QWidget",
          number([](int id) { return ZelGUIOptionMenuAdd(id, 1, 1, 1, 1, nullptr, nullptr); }), kNone},
         {"ZelGUIOptionMenuAppendItem",

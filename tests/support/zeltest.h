@@ -28,6 +28,7 @@ enum Name {
     Toggle,
     Radio,
     Option,
+    List,
     Text,
     OtherText,
     Up,
@@ -63,6 +64,16 @@ template <Name name>
 void reportInt(const int *value)
 {
     note(name, QString::number(*value));
+}
+
+/// For what a list reports: positions with a 0 behind the last. "List 1 3", or "List none".
+template <Name name>
+void reportList(const int *positions)
+{
+    QStringList texts;
+    for (; *positions != 0; ++positions)
+        texts << QString::number(*positions);
+    note(name, texts.isEmpty() ? QStringLiteral("none") : texts.join(QLatin1Char(' ')));
 }
 
 template <Name name>

@@ -564,6 +564,108 @@ ZELGUI_API void ZelGUITextUseFixedPitchFont(int textId, ZelBoolean use);
 
 /** @} */
 
+/** @name Lists
+ * A scrolling list of texts, of which the user selects one or several. What the add-on changes itself is not reported.
+ * A position that does not exist changes nothing. Lists are made for up to a million items; fill long ones with
+ * ZelGUIListSetItems, and select many items with ZelGUIListSetSelectedItems.
+ * @{ */
+
+/**
+ * Adds an empty list. Too small for scroll bars, it has none.
+ *
+ * @param isMultiSelection  true: the user can select any number of items; false: one
+ * @param callback          called at each change of the selection that the user makes. Its argument is not a single
+ *                          value but an array of the positions of all selected items, from 1, in ascending order, with
+ *                          a 0 behind the last; with nothing selected the 0 is all there is.
+ * @return  the list's identifier
+ */
+ZELGUI_API int ZelGUIListAdd(int parentId, int x, int y, int width, int height, ZelBoolean isMultiSelection,
+                             ZelGUIIntCallback callback);
+
+/** Appends one item, UTF-8, as it stands. It is not selected. */
+ZELGUI_API void ZelGUIListAppendItem(int listId, const char *text);
+
+/**
+ * Replaces all items. Nothing is selected afterwards.
+ *
+ * @param items  texts in Latin-1, not UTF-8 as in other functions; stays the caller's; NULL counts as empty
+ */
+ZELGUI_API void ZelGUIListSetItems(int listId, StringList_s *items);
+
+/**
+ * Text of the item at a position, from 1.
+ *
+ * @return  a UTF-8 copy that the caller releases with ZelUtilStringDealloc, empty where there is no such item; NULL
+ *          when the host has no memory; neutral NULL
+ */
+ZELGUI_API char *ZelGUIListGetString(int listId, int position);
+
+/** How many items there are; neutral -2. */
+ZELGUI_API int ZelGUIListGetItemCount(int listId);
+
+/** Removes all items. */
+ZELGUI_API void ZelGUIListDeleteAllItems(int listId);
+
+/** Removes the item at a position, from 1. The other items stay selected or not, as they are. */
+ZELGUI_API void ZelGUIListDeleteItemAtPos(int listId, int position);
+
+/**
+ * Sets the text of one item, which stays selected or not, as it is.
+ *
+ * @param text      UTF-8
+ * @param position  from 1; note that it comes last
+ */
+ZELGUI_API void ZelGUIListReplaceItem(int listId, const char *text, int position);
+
+/** The position that ZelGUIListGetSelectedItems hands out first, from 1; -1 with nothing selected; neutral -1. */
+ZELGUI_API int ZelGUIListGetSelectedItem(int listId);
+
+/**
+ * Positions of all selected items, from 1, in the order in which they were selected: not sorted. What was selected as a
+ * range, by Shift and click for example, is in ascending order; selecting an item that is selected already moves it to
+ * the end, and what remains of the range that it was in to just before it.
+ *
+ * @param selected  receives an array that the caller releases with ZelUtilStringDealloc, cast to char **; NULL with
+ *                  nothing selected and when the host has no memory; may be NULL, and then there is no array
+ * @param count     receives the number of selected items; may be NULL
+ */
+ZELGUI_API void ZelGUIListGetSelectedItems(int listId, int **selected, int *count);
+
+/** Selects nothing. */
+ZELGUI_API void ZelGUIListDeselectAllItems(int listId);
+
+/** Selects all items, as one range; also in a list for single selection. */
+ZELGUI_API void ZelGUIListSelectAllItems(int listId);
+
+/**
+ * Selects the item at a position, from 1, and scrolls as far as needed to show it. In a list for multi-selection the
+ * others stay selected; in one for single selection it is the only one afterwards.
+ */
+ZELGUI_API void ZelGUIListSetSelectedItem(int listId, int position);
+
+/**
+ * Selects items one after the other, without scrolling; what was selected before stays so, also in a list for single
+ * selection. Far faster than a call for each item.
+ *
+ * @param positions  from 1, in any order, also repeated; those that do not exist are passed over; NULL counts as none
+ * @param count      how many positions there are; 0 or less: none
+ */
+ZELGUI_API void ZelGUIListSetSelectedItems(int listId, const int *positions, int count);
+
+/** Scrolls the item at a position, from 1, to the top, or as near to it as the items below allow. */
+ZELGUI_API void ZelGUIListSetTopItemNum(int listId, int position);
+
+/** Position of the item at the top, from 1; 0 in an empty list; neutral -1. */
+ZELGUI_API int ZelGUIListGetTopItemNum(int listId);
+
+/**
+ * How many rows fit into the list: its height, frame included, divided by that of its first row. An empty list answers
+ * for the row that a first item would have. Neutral -1.
+ */
+ZELGUI_API int ZelGUIListGetCapacity(int listId);
+
+/** @} */
+
 /** @name Scales
  * A horizontal slider over whole numbers, with a numeric display of its value above it.
  * @{ */

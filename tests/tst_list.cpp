@@ -1,0 +1,576 @@
+// SPDX-License-Identifier: MIT
+#include "support/zeltest.h"
+
+#include <zvsdkbase/hostcontrol.h>
+
+#include <QElapsedTimer>
+#include <QListWidget>
+#include <QRandomGenerator>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <limits>
+#include <numeric>
+
+using namespace Callback;
+
+namespace {
+
+using Positions = QVector<int>;
+
+int addList(int dialog, bool isMultiSelection = true, int items = 0)
+{
+    const int id = ZelGUIListAdd(dialog, 100, 100, 2000, 800, isMultiSelection, reportList<List>);
+    for (int position = 1; position <= items; ++position)
+        ZelGUIListAppendItem(id, QByteArray::number(position).constData());
+    return id;
+}
+
+void setItems(int id, const QVector<QByteArray> &texts)
+{
+    StringList_s *items = ZelUtilStringListAlloc();
+    for (const QByteArray &text : texts)
+        ZelUtilStringListAppendString(items, text.constData());
+    ZelGUIListSetItems(id, items);
+    ZelUtilStringListDealloc(&items);
+}
+
+QStringList itemsOf(int id)
+{
+    QStringList texts;
+    for (int position = 1; position <= ZelGUIListGetItemCount(id); ++position) {
+        char *text = ZelGUIListGetString(id, position);
+        texts << QString::fromUtf8(text);
+        ZelUtilStringDealloc(&text);
+    }
+    return texts;
+}
+
+Positions selectionOf(int id)
+{
+    int *selected = nullptr;
+    int count = 0;
+    ZelGUIListGetSelectedItems(id, &selected, &count);
+    const Positions positions(selected, selected + count);
+    ZelUtilStringDealloc(reinterpret_cast<char **>(&selected));
+    return positions;
+}
+
+void select(int id, const Positions &positions)
+{
+    ZelGUIListSetSelectedItems(id, positions.constData(), int(positions.size()));
+}
+
+/// First and last position of each range, in the order of the selection.
+QVector<QPair<int, int>> rangesOf(const QListWidget &list)
+{
+    QVector<QPair<int, int>> ranges;
+    for (const QItemSelectionRange &range : list.selectionModel()->selection())
+        ranges << qMakePair(range.top() + 1, range.bottom() + 1);
+    return ranges;
+}
+
+/// The toolkit's own answer, from 1.
+Positions selectedRowsOf(const QListWidget &list)
+{
+    Positions positions;
+    for (const QModelIndex &index : list.selectionModel()->selectedRows(0))
+        positions << index.row() + 1;
+    return positions;
+}
+
+Positions sorted(Positions positions)
+{
+    std::sort(positions.begin(), positions.end());
+    return positions;
+}
+
+void selectRange(QListWidget &list, int first, int last, QItemSelectionModel::SelectionFlags command)
+{
+    const auto *const model = list.model();
+    list.selectionModel()->select(QItemSelection(model->index(first - 1, 0), model->index(last - 1, 0)), command);
+}
+
+void click(QListWidget *list, int position, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    const QPoint point = list->visualItemRect(list->item(position - 1)).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers, point);
+}
+
+} // namespace
+
+/// Lists. What selecting many items at once has to come to is asked of a bare list widget of the toolkit's, where they
+/// are selected one by one.
+class tst_List : public ZelTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void items();
+    void missingPositions_data();
+    void missingPositions();
+    void selectionModes();
+    void order_data();
+    void order();
+    void randomOrder();
+    void userSelection();
+    void userSelectsOne();
+    void rangeByUserAfterAddOn();
+    void silentChanges();
+    void deletionKeepsSelection();
+    void changedInCallback_data();
+    void changedInCallback();
+    void scrolling();
+    void capacity();
+    void smallerThanScrollBars();
+    void nullArguments();
+    void memory();
+    void manyItems_data();
+    void manyItems();
+};
+
+void tst_List::items()
+{
+    const int id = addList(createModal());
+    QCOMPARE(ZelGUIListGetItemCount(id), 0);
+    ZelGUIListAppendItem(id, " 20 \xC2\xB0, x ");
+    ZelGUIListAppendItem(id, nullptr);
+    QCOMPARE(itemsOf(id), QStringList({QString::fromUtf8(" 20 \xC2\xB0, x "), QString()}));
+    setItems(id, {"A", "\xC2\xB0", "", "D"});
+    QCOMPARE(itemsOf(id), QStringList({"A", QString(QChar(0xC2)) + QChar(0xB0), "", "D"}));
+    ZelGUIListReplaceItem(id, "\xC2\xB0", 2);
+    ZelGUIListDeleteItemAtPos(id, 3);
+    QCOMPARE(itemsOf(id), QStringList({"A", QString(QChar(0xB0)), "D"}));
+    ZelGUIListDeleteAllItems(id);
+    QCOMPARE(ZelGUIListGetItemCount(id), 0);
+}
+
+void tst_List::missingPositions_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::newRow("before the first") << 0;
+    QTest::newRow("behind the last") << 4;
+    QTest::newRow("negative") << -1;
+    QTest::newRow("least") << std::numeric_limits<int>::min();
+    QTest::newRow("greatest") << std::numeric_limits<int>::max();
+}
+
+void tst_List::missingPositions()
+{
+    QFETCH(int, position);
+    for (const bool isMultiSelection : {false, true}) {
+        const int id = addList(createModal(), isMultiSelection, 3);
+        ZelGUIListSetSelectedItem(id, 2);
+        ZelGUIListSetSelectedItem(id, position);
+        select(id, {position, position});
+        ZelGUIListDeleteItemAtPos(id, position);
+        ZelGUIListReplaceItem(id, "X", position);
+        ZelGUIListSetTopItemNum(id, position);
+        QCOMPARE(selectionOf(id), Positions({2}));
+        QCOMPARE(itemsOf(id), QStringList({"1", "2", "3"}));
+        char *text = ZelGUIListGetString(id, position);
+        QCOMPARE(text, "");
+        ZelUtilStringDealloc(&text);
+        select(id, {3, position, 1, position});
+        QCOMPARE(selectionOf(id), Positions({2, 3, 1}));
+    }
+}
+
+void tst_List::selectionModes()
+{
+    const int dialog = createModal();
+    const int single = addList(dialog, false, 3);
+    const int multi = addList(dialog, true, 3);
+    for (const int id : {single, multi}) {
+        QCOMPARE(selectionOf(id), Positions());
+        QCOMPARE(ZelGUIListGetSelectedItem(id), -1);
+        ZelGUIListSetSelectedItem(id, 3);
+        ZelGUIListSetSelectedItem(id, 1);
+    }
+    QCOMPARE(selectionOf(single), Positions({1}));
+    QCOMPARE(selectionOf(multi), Positions({3, 1}));
+    QCOMPARE(ZelGUIListGetSelectedItem(multi), 3);
+    for (const int id : {single, multi}) {
+        select(id, {2});
+        QCOMPARE(selectionOf(id).last(), 2);
+        ZelGUIListSelectAllItems(id);
+        QCOMPARE(selectionOf(id), Positions({1, 2, 3}));
+        ZelGUIListDeselectAllItems(id);
+        QCOMPARE(selectionOf(id), Positions());
+        ZelGUIListDeleteAllItems(id);
+        ZelGUIListSelectAllItems(id);
+        QCOMPARE(selectionOf(id), Positions());
+    }
+    // Any byte but 0 asks for multi-selection.
+    QCOMPARE(object<QListWidget>(ZelGUIListAdd(dialog, 1, 1, 1, 1, 200, nullptr))->selectionMode(),
+             QAbstractItemView::ExtendedSelection);
+}
+
+void tst_List::order_data()
+{
+    QTest::addColumn<bool>("isAllSelected");
+    QTest::addColumn<Positions>("positions");
+    QTest::addColumn<Positions>("selected");
+    QTest::newRow("not sorted") << false << Positions({4, 2}) << Positions({4, 2});
+    QTest::newRow("repeated") << false << Positions({4, 2, 5, 4}) << Positions({2, 5, 4});
+    QTest::newRow("neighbours stay apart") << false << Positions({2, 3, 4, 3}) << Positions({2, 4, 3});
+    QTest::newRow("inside a range") << true << Positions({3}) << Positions({1, 2, 4, 5, 6, 3});
+    QTest::newRow("ends of a range") << true << Positions({6, 1}) << Positions({6, 2, 3, 4, 5, 1});
+    QTest::newRow("what a range leaves goes to the end twice")
+        << true << Positions({2, 5}) << Positions({1, 2, 3, 4, 6, 5});
+    QTest::newRow("repeated inside a range") << true << Positions({3, 5, 3}) << Positions({1, 2, 4, 6, 5, 3});
+}
+
+void tst_List::order()
+{
+    QFETCH(bool, isAllSelected);
+    QFETCH(Positions, positions);
+    const int id = addList(createModal(), true, 6);
+    const int oneByOne = addList(createModal(), true, 6);
+    if (isAllSelected) {
+        ZelGUIListSelectAllItems(id);
+        ZelGUIListSelectAllItems(oneByOne);
+    }
+    select(id, positions);
+    QTEST(selectionOf(id), "selected");
+    for (const int position : positions)
+        ZelGUIListSetSelectedItem(oneByOne, position);
+    QTEST(selectionOf(oneByOne), "selected");
+}
+
+/// Selections by the add-on among all else that changes one. The ranges must be the same, not the order of the items
+/// alone, since what happens later depends on them.
+void tst_List::randomOrder()
+{
+    const QVector<QItemSelectionModel::SelectionFlags> userCommands = {
+        QItemSelectionModel::ClearAndSelect, QItemSelectionModel::Select, QItemSelectionModel::Deselect,
+        QItemSelectionModel::Toggle};
+    QRandomGenerator random(20240611);
+    const int dialog = createModal();
+    for (int trial = 0; trial < 2000; ++trial) {
+        int count = random.bounded(1, 13);
+        const auto position = [&] { return random.bounded(1, count + 1); };
+        const int id = addList(dialog, true, count);
+        auto *const list = object<QListWidget>(id);
+        QListWidget bare;
+        for (int i = 0; i < count; ++i)
+            bare.addItem(QString());
+        QString history;
+        const auto act = [&](QItemSelectionModel::SelectionFlags command) {
+            const auto ends = std::minmax({position(), position()});
+            QDebug(&history) << "user" << ends.first << ends.second << int(command);
+            selectRange(*list, ends.first, ends.second, command);
+            selectRange(bare, ends.first, ends.second, command);
+        };
+        for (int step = 0; step < 8; ++step) {
+            const int kind = random.bounded(8);
+            if (kind < 4) {
+                Positions positions(random.bounded(kind == 0 ? 2 : 15));
+                std::generate(positions.begin(), positions.end(), position);
+                QDebug(&history) << "select" << positions;
+                select(id, positions);
+                for (const int each : positions)
+                    selectRange(bare, each, each, QItemSelectionModel::Select);
+            } else if (kind == 4 && count > 1) {
+                const int which = position();
+                QDebug(&history) << "delete" << which;
+                ZelGUIListDeleteItemAtPos(id, which);
+                bare.model()->removeRow(which - 1);
+                --count;
+            } else if (kind == 5) {
+                const int where = random.bounded(count + 1);
+                QDebug(&history) << "insert" << where;
+                list->insertItem(where, QString());
+                bare.insertItem(where, QString());
+                ++count;
+            } else {
+                act(userCommands[random.bounded(int(userCommands.size()))]);
+            }
+            QVERIFY2(rangesOf(*list) == rangesOf(bare), qPrintable(history));
+            QVERIFY2(selectionOf(id) == selectedRowsOf(bare), qPrintable(history));
+            QVERIFY2(ZelGUIListGetSelectedItem(id) == selectedRowsOf(bare).value(0, -1), qPrintable(history));
+        }
+        // With Shift, the user takes back what was selected last.
+        act(QItemSelectionModel::SelectCurrent);
+        QVERIFY2(sorted(selectionOf(id)) == sorted(selectedRowsOf(bare)), qPrintable(history));
+        delete list;
+    }
+}
+
+void tst_List::userSelection()
+{
+    const int id = addList(launchModeless(), true, 6);
+    auto *const list = shown<QListWidget>(id);
+    click(list, 2);
+    click(list, 5, Qt::ControlModifier);
+    click(list, 1, Qt::ControlModifier);
+    QCOMPARE(selectionOf(id), Positions({2, 5, 1}));
+    click(list, 5, Qt::ControlModifier);
+    click(list, 2, Qt::ControlModifier);
+    click(list, 1, Qt::ControlModifier);
+    QTest::keyClick(list, Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(log(),
+             QStringList({"List 2", "List 2 5", "List 1 2 5", "List 1 2", "List 1", "List none", "List 1 2 3 4 5 6"}));
+}
+
+void tst_List::userSelectsOne()
+{
+    const int dialog = launchModeless();
+    const int id = addList(dialog, false, 3);
+    auto *const list = shown<QListWidget>(id);
+    click(list, 2);
+    click(list, 2);
+    click(list, 3, Qt::ControlModifier);
+    ZelGUIListSetSelectedItem(id, 1);
+    QTest::keyClick(list, Qt::Key_Up);
+    QCOMPARE(log(), QStringList({"List 2", "List 3", "List 2"}));
+
+    const int unheard = ZelGUIListAdd(dialog, 100, 1000, 1000, 300, 0, nullptr);
+    ZelGUIListAppendItem(unheard, "A");
+    click(shown<QListWidget>(unheard), 1);
+    QCOMPARE(ZelGUIListGetSelectedItem(unheard), 1);
+}
+
+void tst_List::rangeByUserAfterAddOn()
+{
+    const int id = addList(launchModeless(), true, 6);
+    auto *const list = shown<QListWidget>(id);
+    click(list, 3);
+    select(id, {1, 6});
+    click(list, 4, Qt::ShiftModifier);
+    QCOMPARE(log(), QStringList({"List 3", "List 1 3 4"}));
+}
+
+void tst_List::silentChanges()
+{
+    for (const bool isMultiSelection : {false, true}) {
+        const int id = addList(launchModeless(), isMultiSelection, 5);
+        auto *const list = shown<QListWidget>(id);
+        click(list, 3);
+        log().clear();
+        ZelGUIListSetSelectedItem(id, 1);
+        ZelGUIListDeleteItemAtPos(id, 1);
+        select(id, {2, 3});
+        ZelGUIListReplaceItem(id, "X", 2);
+        ZelGUIListSelectAllItems(id);
+        ZelGUIListDeselectAllItems(id);
+        select(id, {1, 2});
+        setItems(id, {"A", "B"});
+        QCOMPARE(selectionOf(id), Positions());
+        ZelGUIListSelectAllItems(id);
+        ZelGUIListDeleteAllItems(id);
+        QCOMPARE(log(), QStringList());
+        QVERIFY(list->updatesEnabled());
+        ZelGUIListAppendItem(id, "new");
+        click(list, 1);
+        QCOMPARE(log(), QStringList({"List 1"}));
+    }
+}
+
+void tst_List::deletionKeepsSelection()
+{
+    const int id = addList(createModal(), true, 6);
+    select(id, {5, 2, 3});
+    ZelGUIListReplaceItem(id, "X", 5);
+    ZelGUIListDeleteItemAtPos(id, 2);
+    ZelGUIListDeleteItemAtPos(id, 1);
+    QCOMPARE(selectionOf(id), Positions({3, 1}));
+    QCOMPARE(itemsOf(id), QStringList({"3", "4", "X", "6"}));
+}
+
+void tst_List::changedInCallback_data()
+{
+    QTest::addColumn<bool>("isByKey");
+    QTest::newRow("clicked") << false;
+    QTest::newRow("by key") << true;
+}
+
+/// The add-on takes away what the toolkit is just handling.
+void tst_List::changedInCallback()
+{
+    QFETCH(bool, isByKey);
+    const int id = addList(launchModeless(), true, 5);
+    auto *const list = shown<QListWidget>(id);
+    click(list, 4);
+    const QVector<std::function<void()>> actions = {[id] { ZelGUIListDeleteItemAtPos(id, 5); },
+                                                    [id] {
+                                                        setItems(id, {"A", "B"});
+                                                    },
+                                                    [id] { ZelGUIListDeleteAllItems(id); }};
+    for (const auto &act : actions) {
+        action(List) = [act] {
+            action(List) = nullptr;
+            act();
+        };
+        if (isByKey)
+            QTest::keyClick(list, ZelGUIListGetItemCount(id) == 5 ? Qt::Key_Down : Qt::Key_Up);
+        else
+            click(list, ZelGUIListGetItemCount(id) == 5 ? 5 : 2);
+        QVERIFY(!action(List));
+        QTest::qWait(1);
+    }
+    QTest::keyClick(list, Qt::Key_Down);
+    QCOMPARE(ZelGUIListGetItemCount(id), 0);
+    QCOMPARE(selectionOf(id), Positions());
+}
+
+void tst_List::scrolling()
+{
+    const int dialog = createModeless();
+    const int id = addList(dialog, true, 50);
+    QCOMPARE(ZelGUIListGetTopItemNum(addList(dialog)), 0);
+    ZelGUIListSetTopItemNum(id, 7);
+    QCOMPARE(ZelGUIListGetTopItemNum(id), 7);
+    ZelGUIDialogLaunch(dialog);
+    QCOMPARE(ZelGUIListGetTopItemNum(id), 7);
+    select(id, {1});
+    QCOMPARE(ZelGUIListGetTopItemNum(id), 7);
+    ZelGUIListSetSelectedItem(id, 8);
+    QCOMPARE(ZelGUIListGetTopItemNum(id), 7);
+    ZelGUIListSetSelectedItem(id, 2);
+    QCOMPARE(ZelGUIListGetTopItemNum(id), 2);
+    ZelGUIListSetSelectedItem(id, 50);
+    const auto *const list = object<QListWidget>(id);
+    QVERIFY(list->viewport()->rect().contains(list->visualItemRect(list->item(49))));
+}
+
+void tst_List::capacity()
+{
+    const int id = addList(createModal(), true, 3);
+    const auto *const list = object<QListWidget>(id);
+    const int rows = list->height() / list->visualItemRect(list->item(0)).height();
+    QVERIFY(rows > 1);
+    QCOMPARE(ZelGUIListGetCapacity(id), rows);
+    ZelGUIListDeleteAllItems(id);
+    QCOMPARE(ZelGUIListGetCapacity(id), rows);
+    QCOMPARE(ZelGUIListGetItemCount(id), 0);
+
+    const int flat = addList(createModal(), true, 1);
+    object<QListWidget>(flat)->setStyleSheet(QStringLiteral("QListWidget::item { max-height: 0px; }"));
+    object<QListWidget>(flat)->item(0)->setSizeHint(QSize(10, 0));
+    QCOMPARE(ZelGUIListGetCapacity(flat), object<QListWidget>(flat)->height());
+}
+
+/// The toolkit would show and hide the bars for ever.
+void tst_List::smallerThanScrollBars()
+{
+    const int id = ZelGUIListAdd(launchModeless(), 100, 100, 10, 10, 1, reportList<List>);
+    for (int i = 0; i < 20; ++i)
+        ZelGUIListAppendItem(id, "A rather long item");
+    const auto *const list = shown<QListWidget>(id);
+    QTest::qWait(1);
+    QVERIFY(!list->verticalScrollBar()->isVisible());
+    QVERIFY(!list->horizontalScrollBar()->isVisible());
+    ZelGUIListSetSelectedItem(id, 20);
+    QCOMPARE(selectionOf(id), Positions({20}));
+}
+
+void tst_List::nullArguments()
+{
+    const int id = addList(createModal(), true, 3);
+    ZelGUIListSetSelectedItems(id, nullptr, std::numeric_limits<int>::max());
+    QCOMPARE(selectionOf(id), Positions());
+    const int positions[] = {2, 3};
+    for (const int count : {0, -1, std::numeric_limits<int>::min()}) {
+        ZelGUIListSetSelectedItems(id, positions, count);
+        QCOMPARE(selectionOf(id), Positions());
+    }
+    ZelGUIListSetSelectedItems(id, positions, 2);
+    int count = 0;
+    ZelGUIListGetSelectedItems(id, nullptr, &count);
+    QCOMPARE(count, 2);
+    int *selected = nullptr;
+    ZelGUIListGetSelectedItems(id, &selected, nullptr);
+    QCOMPARE(Positions(selected, selected + 2), Positions({2, 3}));
+    ZelUtilStringDealloc(reinterpret_cast<char **>(&selected));
+    ZelGUIListGetSelectedItems(id, nullptr, nullptr);
+    ZelGUIListSetItems(id, nullptr);
+    QCOMPARE(ZelGUIListGetItemCount(id), 0);
+}
+
+void tst_List::memory()
+{
+    const int id = addList(createModal(), true, 3);
+    const auto isUnreleased = [](std::size_t bytes) {
+        const auto all = orvane::host::unreleased();
+        return std::any_of(all.begin(), all.end(), [bytes](const orvane::host::Unreleased &entry) {
+            return entry.label == "ZelGUIListGetSelectedItems" && entry.bytes == bytes;
+        });
+    };
+    int dummy = 0;
+    int *selected = &dummy;
+    int count = 77;
+    ZelGUIListGetSelectedItems(id, &selected, &count);
+    QCOMPARE(selected, nullptr);
+    QCOMPARE(count, 0);
+    ZelGUIListSelectAllItems(id);
+    ZelGUIListGetSelectedItems(id, &selected, &count);
+    QVERIFY(isUnreleased(3 * sizeof(int)));
+    ZelUtilStringDealloc(reinterpret_cast<char **>(&selected));
+    QCOMPARE(selected, nullptr);
+    QVERIFY(!isUnreleased(3 * sizeof(int)));
+}
+
+void tst_List::manyItems_data()
+{
+    QTest::addColumn<bool>("isVisible");
+    QTest::newRow("hidden") << false;
+    QTest::newRow("visible") << true;
+}
+
+/// Whatever grows with the square of the number of items takes minutes here, and seconds at the most otherwise.
+void tst_List::manyItems()
+{
+    QFETCH(bool, isVisible);
+    constexpr int kCount = 200000;
+    const int id = addList(isVisible ? launchModeless() : createModal());
+    auto *const list = object<QListWidget>(id);
+    list->setVisible(isVisible);
+    QElapsedTimer timer;
+    timer.start();
+
+    setItems(id, QVector<QByteArray>(kCount, "item"));
+    Positions all(kCount);
+    std::iota(all.begin(), all.end(), 1);
+    Positions odd;
+    std::copy_if(all.begin(), all.end(), std::back_inserter(odd), [](int position) { return position % 2 == 1; });
+    std::shuffle(odd.begin(), odd.end(), QRandomGenerator(1));
+    Positions shuffled = all;
+    std::shuffle(shuffled.begin(), shuffled.end(), QRandomGenerator(2));
+
+    select(id, odd + odd);
+    QCOMPARE(selectionOf(id), odd);
+    // Almost all of it in the way, piece by piece.
+    ZelGUIListSelectAllItems(id);
+    QCOMPARE(selectionOf(id), all);
+    select(id, odd);
+    QCOMPARE(selectionOf(id).size(), kCount);
+    QCOMPARE(selectionOf(id).last(), odd.last());
+    select(id, shuffled);
+    QCOMPARE(selectionOf(id), shuffled);
+    select(id, {shuffled[kCount / 2]});
+    QCOMPARE(selectionOf(id).last(), shuffled[kCount / 2]);
+    ZelGUIListSetSelectedItem(id, shuffled[0]);
+    QCOMPARE(ZelGUIListGetSelectedItem(id), shuffled[1]);
+    QVERIFY2(timer.restart() < 20000, "selecting");
+
+    selectRange(*list, 7, 7, QItemSelectionModel::Toggle);
+    QCOMPARE(log().size(), 1);
+    QCOMPARE(log().first().count(QLatin1Char(' ')), kCount - 1);
+    QVERIFY2(timer.restart() < 20000, "reporting");
+
+    ZelGUIListDeleteItemAtPos(id, kCount / 2);
+    QCOMPARE(selectionOf(id).size(), kCount - 2);
+    ZelGUIListDeselectAllItems(id);
+    QCOMPARE(ZelGUIListGetSelectedItem(id), -1);
+    select(id, odd);
+    ZelGUIListDeleteAllItems(id);
+    QCOMPARE(ZelGUIListGetItemCount(id), 0);
+    for (int i = 0; i < kCount; ++i)
+        ZelGUIListAppendItem(id, "item");
+    QCOMPARE(ZelGUIListGetItemCount(id), kCount);
+    QVERIFY2(timer.restart() < 20000, "deleting and appending");
+}
+
+ZELTEST_MAIN(tst_List)
+#include "tst_list.moc"

@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: MIT
+#include "widgets/list.h"
+
+#include "core/callback.h"
+#include "core/entrypoint.h"
+#include "core/placement.h"
+#include "core/text.h"
+#include "util/selectionorder.h"
+
+#include <zvtoolbox/stringlist.h>
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+namespace orvane::zelgui {
+
+namespace {
+
+/// Lives while the add-on changes many rows: nothing is reported, and a visible list repaints once, instead of looking
+/// up where each of the rows is.
+class BulkChange
+{
+public:
+    explicit BulkChange(QListWidget &list) : m_list(list), m_hadUpdates(list.updatesEnabled())
+    {
+        if (m_hadUpdates)
+            m_list.setUpdatesEnabled(false);
+    }
+    ~BulkChange()
+    {
+        if (m_hadUpdates)
+            m_list.setUpdatesEnabled(true);
+    }
+    BulkChange(const BulkChange &) = delete;
+    BulkChange &operator=(const BulkChange &) = delete;
+
+private:
+    CallbackSuppressor m_suppressor;
+    QListWidget &m_list;
+    bool m_hadUpdates;
+};
+
+/// The model's index for a position, which counts from 1; invalid if there is no such item.
+QModelIndex indexAt(const QListWidget &list, int position)
+{
+    return list.model()->index(position < 1 ? -1 : position - 1, 0);
+}
+
+/// Positions of the selected items, in the order of the selection.
+std::vector<int> selectedPositions(const QListWidget &list)
+{
+    std::vector<int> positions;
+    for (const QItemSelectionRange &range : list.selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            positions.push_back(row + 1);
+    }
+    return positions;
+}
+
+void handOutSelectedPositions(const QListWidget &list, int **selected, int *count)
+{
+    const std::vector<int> positions = selectedPositions(list);
+    if (count)
+        *count = static_cast<int>(positions.size());
+    if (!selected)
+        return;
+    *selected = nullptr;
+    if (positions.empty())
+        return;
+    const std::size_t size = positions.size() * sizeof(int);
+    char *const copy = ZelUtilStringAlloc(size, "ZelGUIListGetSelectedItems");
+    if (copy)
+        std::memcpy(copy, positions.data(), size);
+    // What a host allocates is aligned for any type.
+    *selected = static_cast<int *>(static_cast<void *>(copy));
+}
+
+QStringList textsOf(StringList_s *items)
+{
+    const orvane::toolbox::StringList list(items);
+    QStringList texts;
+    const int size = list.size();
+    texts.reserve(size);
+    for (int position = 1; position <= size; ++position)
+        texts << fromLatin1(list.get(position).c_str());
+    return texts;
+}
+
+void setItems(QListWidget &list, const QStringList &texts)
+{
+    const BulkChange change(list);
+    list.clear();
+    list.addItems(texts);
+}
+
+void selectAll(QListWidget &list)
+{
+    const BulkChange change(list);
+    // Joining the new range to what was selected would cost the square of that, and nothing of it would remain.
+    list.clearSelection();
+    list.selectionModel()->select(QItemSelection(indexAt(list, 1), indexAt(list, list.count())),
+                                  QItemSelectionModel::Select);
+}
+
+/// Adds to the selection, with the outcome of selecting one position after the other.
+void select(QListWidget &list, const int *positions, int count)
+{
+    std::vector<int> rows;
+    for (int i = 0; i < (positions ? count : 0); ++i) {
+        if (indexAt(list, positions[i]).isValid())
+            rows.push_back(positions[i] - 1);
+    }
+    if (rows.empty())
+        return;
+    const BulkChange change(list);
+    selectInTurn(*list.selectionModel(), rows);
+}
+
+void selectAndShow(QListWidget &list, int position)
+{
+    const QModelIndex index = indexAt(list, position);
+    // Without an item, single selection would be cleared.
+    if (!index.isValid())
+        return;
+    if (list.selectionMode() == QAbstractItemView::ExtendedSelection) {
+        select(list, &position, 1);
+    } else {
+        const BulkChange change(list);
+        list.selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
+    }
+    list.scrollTo(index);
+}
+
+/// Height in pixels that every row has, or would have.
+int rowHeight(QListWidget &list)
+{
+    if (list.count() > 0)
+        return list.visualItemRect(list.item(0)).height();
+    const CallbackSuppressor suppressor;
+    const QListWidgetItem passing(QString(), &list);
+    return list.visualItemRect(&passing).height();
+}
+
+/// How many whole rows are as high as the list. A style may give rows no height.
+int capacity(QListWidget &list)
+{
+    return list.height() / std::max(rowHeight(list), 1);
+}
+
+} // namespace
+
+ZelGUIList::ZelGUIList(QWidget *parent, int x, int y, int width, int height, bool isMultiSelection,
+                       ZelGUIIntCallback callback)
+    : QListWidget(parent), m_callback(callback)
+{
+    setSelectionMode(isMultiSelection ? ExtendedSelection : SingleSelection);
+    placeScrollArea(this, x, y, width, height);
+    connect(this, &QListWidget::itemSelectionChanged, this, &ZelGUIList::onItemSelectedChanged);
+}
+
+void ZelGUIList::onItemSelectedChanged()
+{
+    if (!m_callback || ZelGUIWidgetRepository::instance()->callbacksSuppressed())
+        return;
+    std::vector<int> positions = selectedPositions(*this);
+    std::sort(positions.begin(), positions.end());
+    positions.push_back(0);
+    report<const int *>(this, m_callback, positions.data());
+}
+
+} // namespace orvane::zelgui
+
+using namespace orvane::zelgui;
+
+int ZelGUIListAdd(int parentId, int x, int y, int width, int height, ZelBoolean isMultiSelection,
+                  ZelGUIIntCallback callback)
+{
+    return addWidgetTo<ZelGUIList>(parentId, x, y, width, height, isMultiSelection != 0, callback);
+}
+
+void ZelGUIListAppendItem(int listId, const char *text)
+{
+    withWidget<QListWidget>(listId, [text](QListWidget &list) {
+        const CallbackSuppressor suppressor;
+        list.addItem(fromUtf8(text));
+    });
+}
+
+void ZelGUIListSetItems(int listId, StringList_s *items)
+{
+    withWidget<QListWidget>(listId, [items](QListWidget &list) { setItems(list, textsOf(items)); });
+}
+
+char *ZelGUIListGetString(int listId, int position)
+{
+    return withWidget<QListWidget>(listId, static_cast<char *>(nullptr), [position](const QListWidget &list) {
+        return allocHostString(indexAt(list, position).data().toString());
+    });
+}
+
+int ZelGUIListGetItemCount(int listId)
+{
+    return withWidget<QListWidget>(listId, kInvalidWidgetId, [](const QListWidget &list) { return list.count(); });
+}
+
+void ZelGUIListDeleteAllItems(int listId)
+{
+    withWidget<QListWidget>(listId, [](QListWidget &list) {
+        const BulkChange change(list);
+        list.clear();
+    });
+}
+
+void ZelGUIListDeleteItemAtPos(int listId, int position)
+{
+    withWidget<QListWidget>(listId, [position](QListWidget &list) {
+        const CallbackSuppressor suppressor;
+        list.model()->removeRow(indexAt(list, position).row());
+    });
+}
+
+void ZelGUIListReplaceItem(int listId, const char *text, int position)
+{
+    withWidget<QListWidget>(listId, [text, position](QListWidget &list) {
+        const CallbackSuppressor suppressor;
+        list.model()->setData(indexAt(list, position), fromUtf8(text));
+    });
+}
+
+int ZelGUIListGetSelectedItem(int listId)
+{
+    return withWidget<QListWidget>(listId, -1, [](const QListWidget &list) {
+        const QItemSelection selection = list.selectionModel()->selection();
+        return selection.isEmpty() ? -1 : selection.first().top() + 1;
+    });
+}
+
+void ZelGUIListGetSelectedItems(int listId, int **selected, int *count)
+{
+    withWidget<QListWidget>(
+        listId, [selected, count](const QListWidget &list) { handOutSelectedPositions(list, selected, count); });
+}
+
+void ZelGUIListDeselectAllItems(int listId)
+{
+    withWidget<QListWidget>(listId, [](QListWidget &list) {
+        const BulkChange change(list);
+        list.clearSelection();
+    });
+}
+
+void ZelGUIListSelectAllItems(int listId)
+{
+    withWidget<QListWidget>(listId, [](QListWidget &list) { selectAll(list); });
+}
+
+void ZelGUIListSetSelectedItem(int listId, int position)
+{
+    withWidget<QListWidget>(listId, [position](QListWidget &list) { selectAndShow(list, position); });
+}
+
+void ZelGUIListSetSelectedItems(int listId, const int *positions, int count)
+{
+    withWidget<QListWidget>(listId, [positions, count](QListWidget &list) { select(list, positions, count); });
+}
+
+void ZelGUIListSetTopItemNum(int listId, int position)
+{
+    withWidget<QListWidget>(listId, [position](QListWidget &list) {
+        list.scrollTo(indexAt(list, position), QAbstractItemView::PositionAtTop);
+    });
+}
+
+int ZelGUIListGetTopItemNum(int listId)
+{
+    return withWidget<QListWidget>(listId, -1,
+                                   [](const QListWidget &list) { return list.indexAt(QPoint(0, 0)).row() + 1; });
+}
+
+int ZelGUIListGetCapacity(int listId)
+{
+    return withWidget<QListWidget>(listId, -1, [](QListWidget &list) { return capacity(list); });
+}

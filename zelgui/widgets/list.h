@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZELGUI_WIDGETS_LIST_H
+#define ZELGUI_WIDGETS_LIST_H
+
+#include <zelgui/zelgui.h>
+
+#include <QListWidget>
+
+namespace orvane::zelgui {
+
+/// A scrolling list of texts, which reports all selected positions at every change that the user makes.
+class ZelGUIList : public QListWidget
+{
+    Q_OBJECT
+
+public:
+    /// Position and size are in font units.
+    ZelGUIList(QWidget *parent, int x, int y, int width, int height, bool isMultiSelection, ZelGUIIntCallback callback);
+
+private Q_SLOTS:
+    void onItemSelectedChanged();
+
+private:
+    ZelGUIIntCallback m_callback;
+};
+
+} // namespace orvane::zelgui
+
+#endif
