@@ -22,7 +22,7 @@ using namespace Callback;
 namespace {
 
 /// What goes while the callback is running.
-enum class Victim { MainWindow, ParentDialog, OwnDialog, NestedThenMainWindow };
+enum class Victim { MainWindow, ParentDialog, OwnDialog, NestedThenMainWindow, NestedThenOwnDialog };
 
 struct Scene
 {
@@ -212,7 +212,8 @@ QList<Trigger> triggers()
 const QList<QPair<const char *, Victim>> kVictims = {{"main window", Victim::MainWindow},
                                                      {"parent dialog", Victim::ParentDialog},
                                                      {"own dialog", Victim::OwnDialog},
-                                                     {"main window, in a nested dialog", Victim::NestedThenMainWindow}};
+                                                     {"main window, in a nested dialog", Victim::NestedThenMainWindow},
+                                                     {"own dialog, in its nested one", Victim::NestedThenOwnDialog}};
 
 #define REQUIRE(condition)                                                                                             \
     do {                                                                                                               \
@@ -232,26 +233,29 @@ int play(const Trigger &trigger, Victim victim)
     scene.dialog = ZelTest::createModal(scene.parent);
     scene.widget = scene.mainWindow->findChild<QDialog *>(QString::number(scene.dialog));
     QPointer<QDialog> parentWidget = scene.mainWindow->findChild<QDialog *>(QString::number(scene.parent));
+    const bool isNested = victim == Victim::NestedThenMainWindow || victim == Victim::NestedThenOwnDialog;
+    const int nestedParent = victim == Victim::NestedThenOwnDialog ? scene.dialog : scene.parent;
     const int nested =
-        ZelGUIDialogCreateModal(scene.parent, 1000, 1000, "", report<OtherPush>, nullptr, nullptr, nullptr, nullptr);
+        ZelGUIDialogCreateModal(nestedParent, 1000, 1000, "", report<OtherPush>, nullptr, nullptr, nullptr, nullptr);
 
     // Inside the dialog: an identifier to be forgotten, and a field whose end is nothing to report.
     const int inside = ZelGUIToggleAdd(scene.dialog, 100, 100, 1000, 100, "", nullptr);
     ZelGUIToggleSet(inside, 1);
 
     bool isDestroyed = false;
+    const bool isOwn = victim == Victim::OwnDialog || victim == Victim::NestedThenOwnDialog;
     bool isKept = false;
     bool isForgotten = false;
     const auto destroy = [&] {
         if (victim == Victim::ParentDialog)
             delete parentWidget;
-        else if (victim == Victim::OwnDialog)
+        else if (isOwn)
             delete scene.widget;
         else
             delete scene.mainWindow;
         isDestroyed = true;
         // What dies with something else is kept while callbacks run, out of sight.
-        isKept = victim == Victim::OwnDialog || (scene.widget && !scene.widget->isVisible());
+        isKept = isOwn || (scene.widget && !scene.widget->isVisible());
         // All identifiers have to answer as destroyed from here on.
         isForgotten = ZelGUIToggleGet(inside) == 0;
         ZelGUIDialogLaunch(scene.dialog);
@@ -260,7 +264,7 @@ int play(const Trigger &trigger, Victim victim)
     };
     action(trigger.callback) = [&] {
         action(trigger.callback) = nullptr;
-        if (victim != Victim::NestedThenMainWindow) {
+        if (!isNested) {
             destroy();
             return;
         }
@@ -273,7 +277,7 @@ int play(const Trigger &trigger, Victim victim)
         bool hasProcessedEvents = false;
         QTimer::singleShot(0, qApp, [&] { hasProcessedEvents = true; });
         trigger.act(scene);
-        REQUIRE(!hasProcessedEvents || victim == Victim::NestedThenMainWindow);
+        REQUIRE(!hasProcessedEvents || isNested);
     } else {
         QTimer::singleShot(0, qApp, [&] { trigger.act(scene); });
         ZelGUIDialogLaunch(scene.dialog);
@@ -284,10 +288,10 @@ int play(const Trigger &trigger, Victim victim)
     REQUIRE(ZelGUIDialogIsUp(scene.dialog) == 0);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     REQUIRE(scene.widget.isNull());
-    const bool isNested = victim == Victim::NestedThenMainWindow;
     const int launches = (trigger.callback == Init ? 0 : 1) + 1 + (isNested ? 1 : 0);
     REQUIRE(log().size() == launches);
-    REQUIRE(ZelTest::createModal() == (victim == Victim::MainWindow || isNested ? -2 : ZelTest::createModal() - 1));
+    const int next = ZelTest::createModal();
+    REQUIRE((next == -2) == !scene.mainWindow);
     delete scene.mainWindow;
     return 0;
 }

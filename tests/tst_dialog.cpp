@@ -92,6 +92,7 @@ void tst_Dialog::windowAndTitle()
     QVERIFY(qobject_cast<QDialog *>(dialog->parent()));
     QCOMPARE(dialog->windowFlags(),
              Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    QCOMPARE(dialog->windowTitle(), QString("Modeless"));
     ZelGUIDialogSetTitle(child, "\xEF\xBB\xBF\xC3\x84rger % 5 \xF0\x9F\x98\x80");
     QCOMPARE(dialog->windowTitle().toUtf8(), QByteArray("\xEF\xBB\xBF\xC3\x84rger % 5 \xF0\x9F\x98\x80"));
 }

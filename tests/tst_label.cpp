@@ -57,6 +57,7 @@ void tst_Label::doubles_data()
                                                 "C")
                                   << QString::fromUtf8("20 \xC2\xB0"
                                                        "C");
+    QTest::newRow("a point without digits") << 3.5 << QByteArray("%.f") << "4";
     QTest::newRow("widest") << 1.0 << QByteArray("%1000.0f") << QString(999, QLatin1Char(' ')) + QLatin1Char('1');
     const char *const bad[] = {"",       "%",       "text",          "%%",   "%d",    "%s",      "%n",
                                "%c",     "%*f",     "%.*f",          "%f%f", "%f %s", "%f%",     "%Lf",

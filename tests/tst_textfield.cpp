@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/zeltest.h"
 
+#include <QApplication>
 #include <QLineEdit>
 
 #include <cmath>
@@ -31,10 +32,14 @@ extern "C" void ZelUtilDialogErrMsg(const char *message)
     messages << QString::fromUtf8(message);
 }
 
-/// The values of text fields, and what the user is told about wrong ones.
+/// The values of text fields, and what the user is told about wrong ones. What works on a text field works on the text
+/// part of a spin text field: called with "spin", all of this is about those.
 class tst_TextField : public ZelTest
 {
     Q_OBJECT
+
+public:
+    explicit tst_TextField(bool isSpin) : m_isSpin(isSpin) {}
 
 protected Q_SLOTS:
     void init();
@@ -55,6 +60,7 @@ private Q_SLOTS:
     void validateInteger();
 
 private:
+    bool m_isSpin;
     int m_field = -2;
 };
 
@@ -63,11 +69,8 @@ void tst_TextField::init()
     ZelTest::init();
     messages.clear();
     const int dialog = createModal();
-    // What works on a text field works on the text part of a spin text field; one of each, in turn.
-    static bool isSpin = false;
-    isSpin = !isSpin;
-    m_field = isSpin ? ZelGUISpinTextFieldAdd(dialog, 1, 1, 1000, 100, reportText<Text>, nullptr, nullptr)
-                     : ZelGUITextFieldAdd(dialog, 1, 1, 1000, 100, reportText<Text>);
+    m_field = m_isSpin ? ZelGUISpinTextFieldAdd(dialog, 1, 1, 1000, 100, reportText<Text>, nullptr, nullptr)
+                       : ZelGUITextFieldAdd(dialog, 1, 1, 1000, 100, reportText<Text>);
 }
 
 void tst_TextField::strings_data()
@@ -282,5 +285,12 @@ void tst_TextField::validateInteger()
     QCOMPARE(messages.size(), message.isEmpty() ? 0 : 1);
 }
 
-ZELTEST_MAIN(tst_TextField)
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QStringList arguments = QCoreApplication::arguments();
+    tst_TextField test(arguments.removeOne("spin"));
+    return QTest::qExec(&test, arguments);
+}
+
 #include "tst_textfield.moc"

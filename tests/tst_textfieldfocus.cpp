@@ -33,6 +33,8 @@ private Q_SLOTS:
     void goneWithItsDialog();
     void callbackShowsAMessage_data() { kinds(); }
     void callbackShowsAMessage();
+    void hiddenOrDisabled_data() { kinds(); }
+    void hiddenOrDisabled();
     void popups_data() { kinds(); }
     void popups();
     void otherWindow_data() { kinds(); }
@@ -214,15 +216,30 @@ void tst_TextFieldFocus::callbackShowsAMessage()
         m_window->activateWindow();
         return QTest::qWaitFor([this] { return hasFocus(); }) && isAllSelected();
     };
+    QTest::keyClick(m_widget, Qt::Key_Return);
+    QVERIFY(isBack());
     QTest::keyClick(m_widget, Qt::Key_Tab);
     QVERIFY(isBack());
     QTest::mouseClick(object<QWidget>(m_other), Qt::LeftButton);
     QVERIFY(isBack());
-    QTest::keyClick(m_widget, Qt::Key_Return);
-    QVERIFY(isBack());
     QTest::qWait(10);
     QCOMPARE(shownMessages, 3);
     QCOMPARE(log(), QStringList({"Text bad", "Text bad", "Text bad"}));
+}
+
+// A hidden page takes the field along, though not what the user typed; a disabled field can't be corrected.
+void tst_TextFieldFocus::hiddenOrDisabled()
+{
+    open();
+    answer(Text) = 0;
+    m_widget->setEnabled(false);
+    QCOMPARE(log(), QStringList({"Text bad"}));
+    QVERIFY(!hasFocus());
+    m_widget->setEnabled(true);
+    m_widget->setFocus();
+    m_widget->hide();
+    QVERIFY(!hasFocus());
+    QCOMPARE(log(), QStringList({"Text bad", "OtherText ", "Text bad"}));
 }
 
 void tst_TextFieldFocus::popups()

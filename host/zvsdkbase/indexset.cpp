@@ -123,6 +123,8 @@ ZelBoolean ZelUtilSetAddRange(IndexSet set, LgIndex first, LgIndex last, LgIndex
     if (first < 1 || last < first || step < 1 || !Ledger::instance().holds(set, Ledger::Set))
         return 0;
     return guarded<ZelBoolean>(0, showErrors, [=]() -> ZelBoolean {
+        if (set->runEnd(first) >= last)
+            return 1;
         const auto newRuns = step == 1 ? 1U : static_cast<std::uint64_t>((last - first) / step) + 1;
         if (newRuns > MostRuns - std::min(MostRuns, set->runs.size()))
             throw std::bad_alloc();

@@ -543,7 +543,8 @@ ZELGUI_API int ZelGUITextAdd(int parentId, int x, int y, int width, int height, 
                              ZelGUITextCallback callback);
 
 /**
- * The whole text, byte for byte as it was put in, but for other line ends: CR LF, CR and U+2029 are line feeds.
+ * The whole text, byte for byte as it was put in, but for what the toolkit takes for a line end: CR LF, CR, U+2029 and
+ * the noncharacters U+FDD0 and U+FDD1 are line feeds.
  *
  * @return  a UTF-8 copy that the caller releases with ZelUtilStringDealloc; NULL when the host has no memory; neutral
  *          NULL

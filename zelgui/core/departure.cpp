@@ -17,11 +17,16 @@ namespace {
 
 int callbacksInProgress = 0;
 
+using Departing = std::vector<const QObject *>;
+using Kept = std::vector<QPointer<QWidget>>;
+
+// Neither is ever deleted: a host may destroy its main window after the library's static objects.
+
 /// What is leaving, down from its topmost object. Nearly always empty.
-std::vector<const QObject *> departing;
+Departing &departing = *new Departing;
 
 /// What is to be deleted when the last callback has returned.
-std::vector<QPointer<QWidget>> keptForCallbacks;
+Kept &keptForCallbacks = *new Kept;
 
 void markDeparting(QWidget *window)
 {
@@ -31,7 +36,6 @@ void markDeparting(QWidget *window)
     QObject::connect(window, &QObject::destroyed, [window] {
         departing.erase(std::remove(departing.begin(), departing.end(), window), departing.end());
     });
-    ZelGUIWidgetRepository::instance()->forget(window);
 }
 
 /// Hides a window and the dialogs inside it; the modal loops of all of them end.
@@ -51,7 +55,7 @@ void keepContent(QWidget *window)
     const auto content = window->findChildren<QObject *>(QString(), Qt::FindDirectChildrenOnly);
     for (QObject *const object : content) {
         if (auto *const widget = qobject_cast<QWidget *>(object))
-            widget->setParent(keeper);
+            widget->setParent(keeper, widget->windowFlags());
         else if (!qobject_cast<QLayout *>(object))
             object->setParent(keeper);
     }
@@ -97,10 +101,8 @@ void depart(QWidget *dialog)
         keepContent(dialog);
 }
 
-bool isDeparting(const QObject *object)
+bool isLeaving(const QObject *object)
 {
-    if (!ZelGUIWidgetRepository::instance()->isGuiAvailable())
-        return true;
     if (departing.empty())
         return false;
     for (; object; object = object->parent()) {
@@ -108,6 +110,11 @@ bool isDeparting(const QObject *object)
             return true;
     }
     return false;
+}
+
+bool isDeparting(const QObject *object)
+{
+    return !ZelGUIWidgetRepository::instance()->isGuiAvailable() || isLeaving(object);
 }
 
 } // namespace orvane::zelgui

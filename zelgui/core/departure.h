@@ -30,7 +30,11 @@ void outliveParentDuringCallbacks(QWidget *dialog);
 /// returned. For the dialog's destructor, while it still is a complete dialog.
 void depart(QWidget *dialog);
 
-/// Whether nothing may be reported about an object any more: it is leaving, or the GUI is gone.
+/// Whether an object is in something that is leaving. Its identifier finds nothing any more.
+bool isLeaving(const QObject *object);
+
+/// Whether nothing may be reported about an object any more: it is leaving, or the GUI is
+/// gone.
 bool isDeparting(const QObject *object);
 
 } // namespace orvane::zelgui

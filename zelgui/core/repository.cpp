@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "core/repository.h"
 
+#include "core/departure.h"
+
 #include <common_ui_qt/mainwindow.h>
 #include <zvsdkbase/zelutil.h>
 
 #include <QWidget>
+
+#include <algorithm>
 
 namespace orvane::zelgui {
 
@@ -30,24 +34,21 @@ int ZelGUIWidgetRepository::addWidget(QObject *object)
     return id;
 }
 
-int ZelGUIWidgetRepository::idOf(const QObject *object) const
+QObject *ZelGUIWidgetRepository::widget(int id) const
 {
-    // The object's name says where to look; it proves nothing, since the host may give names too.
-    bool isNumber = false;
-    const int id = object->objectName().toInt(&isNumber);
-    return isNumber && widget(id) == object ? id : kInvalidWidgetId;
+    QObject *const object = isValidId(id) ? m_objects[static_cast<std::size_t>(id)].data() : nullptr;
+    return object && !isLeaving(object) ? object : nullptr;
 }
 
-void ZelGUIWidgetRepository::forget(QObject *root)
+int ZelGUIWidgetRepository::idOf(const QObject *object) const
 {
-    const auto forgetOne = [this](const QObject *object) {
-        const int id = idOf(object);
-        if (id != kInvalidWidgetId)
-            m_objects[static_cast<std::size_t>(id)].clear();
-    };
-    forgetOne(root);
-    for (const QObject *const object : root->findChildren<QObject *>())
-        forgetOne(object);
+    // The name tells where to look, unless the host has given another.
+    bool isNumber = false;
+    const int id = object->objectName().toInt(&isNumber);
+    if (isNumber && widget(id) == object)
+        return id;
+    const auto found = std::find(m_objects.begin(), m_objects.end(), object);
+    return found == m_objects.end() ? kInvalidWidgetId : static_cast<int>(found - m_objects.begin());
 }
 
 void ZelGUIWidgetRepository::onMainWindowDestroyed()

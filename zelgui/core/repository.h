@@ -30,7 +30,8 @@ public:
     /// Registers an object; its identifier also becomes its object name.
     int addWidget(QObject *object);
     bool isValidId(int id) const { return id >= 0 && static_cast<std::size_t>(id) < m_objects.size(); }
-    QObject *widget(int id) const { return isValidId(id) ? m_objects[static_cast<std::size_t>(id)].data() : nullptr; }
+    /// Null also for what was destroyed, or is on its way out while a callback runs.
+    QObject *widget(int id) const;
     template <typename T>
     T *widgetAs(int id) const
     {
@@ -40,9 +41,6 @@ public:
     /// The identifier of an object, or kInvalidWidgetId.
     int idOf(const QObject *object) const;
     bool isRegistered(const QObject *object) const { return idOf(object) != kInvalidWidgetId; }
-
-    /// From now on the identifiers of `root` and of everything inside it answer as those of destroyed objects do.
-    void forget(QObject *root);
 
     bool callbacksSuppressed() const { return m_callbacksSuppressed; }
     void setCallbacksSuppressed(bool on) { m_callbacksSuppressed = on; }

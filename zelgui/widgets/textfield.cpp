@@ -27,32 +27,46 @@ bool leavesDialogAsIs(QAbstractButton *button)
     return box && box->buttonRole(button) == QDialogButtonBox::RejectRole;
 }
 
-/// Watches a press of the mouse that takes the focus from a field, for a callback that shows a message meanwhile: the
-/// release then goes to the message, and a button that gets the press only now would stay down. Cancel and Close must
-/// be reachable with one click even if every message says that the field can't be left, so their click is completed.
+/// Keeps the press of the mouse that is about to be delivered from the widget that it was meant for.
+class StalePress : public QObject
+{
+public:
+    StalePress() : QObject(qApp)
+    {
+        qApp->installEventFilter(this);
+        deleteLater();
+    }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        return event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    }
+};
+
+/// Watches a press of the mouse that takes the focus from a field, for a callback that shows a message meanwhile. The
+/// release then goes to the message, and what got the press only now would stay pressed: a button, an arrow that steps
+/// for ever, a list that opens. Cancel and Close must be reached with one click even if every message says that the
+/// field can't be left, so their click is completed.
 class InterruptedClick
 {
 public:
     explicit InterruptedClick(Qt::FocusReason reason)
         : m_button(reason == Qt::MouseFocusReason ? qobject_cast<QAbstractButton *>(QApplication::focusWidget())
                                                   : nullptr),
-          m_pressed(QGuiApplication::mouseButtons())
+          m_pressed(reason == Qt::MouseFocusReason ? QGuiApplication::mouseButtons() : Qt::NoButton)
     {}
 
     ~InterruptedClick()
     {
-        if (!m_button || (QGuiApplication::mouseButtons() & m_pressed) == m_pressed)
+        if ((QGuiApplication::mouseButtons() & m_pressed) == m_pressed)
             return;
-        // When the press has arrived.
-        QMetaObject::invokeMethod(
-            m_button,
-            [button = m_button.data()] {
-                if (leavesDialogAsIs(button))
-                    button->click();
-                else
-                    button->setDown(false);
-            },
-            Qt::QueuedConnection);
+        new StalePress;
+        if (!m_button || !leavesDialogAsIs(m_button))
+            return;
+        const auto click = [button = m_button.data()] {
+            if (button->isVisible())
+                button->click();
+        };
+        QMetaObject::invokeMethod(m_button, click, Qt::QueuedConnection);
     }
     InterruptedClick(const InterruptedClick &) = delete;
     InterruptedClick &operator=(const InterruptedClick &) = delete;
@@ -94,7 +108,9 @@ void ZelGUITextField::editingFinished()
         return;
     m_isReporting = false;
     m_isRejected = !isAccepted;
-    if (isAccepted || !isVisible())
+    // What is out of the user's reach can't be corrected. A spin box is disabled before the field inside it.
+    const QWidget *const focused = focusProxy() ? focusProxy() : this;
+    if (isAccepted || !isVisible() || !focused->isEnabled())
         return;
     const QScopedValueRollback<bool> takingBack(isFocusTakenBack, true);
     selectAll();
@@ -103,8 +119,8 @@ void ZelGUITextField::editingFinished()
 
 bool ZelGUITextField::isLossToReport(const QFocusEvent &event) const
 {
-    // With its dialog, the field goes from the user's sight; the window is hidden before what it contains.
-    if (!m_hasFocusToLose || !isVisible() || window()->isHidden())
+    // With its dialog, the field is simply gone; with a page, what was typed is still to be looked at.
+    if (!m_hasFocusToLose || window()->isHidden())
         return false;
     const bool isPopup = event.reason() == Qt::PopupFocusReason;
     // A rejected text needs no second report when the focus is only lent: it will be back.
@@ -112,6 +128,12 @@ bool ZelGUITextField::isLossToReport(const QFocusEvent &event) const
         return false;
     const QWidget *const popup = QApplication::activePopupWidget();
     return !isPopup || !popup || popup->parentWidget() != this;
+}
+
+void ZelGUITextField::showEvent(QShowEvent *event)
+{
+    m_isRejected = false;
+    QLineEdit::showEvent(event);
 }
 
 void ZelGUITextField::focusInEvent(QFocusEvent *event)
@@ -197,7 +219,7 @@ ZelBoolean ZelGUITextFieldGetSet(int fieldId, IndexSet *set)
         const bool isSet = stringToSet(text.toUtf8().constData(), &members, text.contains(QLatin1Char('[')));
         if (set)
             *set = members;
-        else
+        else if (members)
             ZelUtilSetDealloc(&members);
         return isSet;
     });
@@ -209,6 +231,7 @@ void ZelGUITextFieldSetSet(int fieldId, IndexSet set, ZelBoolean includeBrackets
         char *text = nullptr;
         setToString(set, includeBrackets != 0, &text);
         field.setText(fromLatin1(text));
-        ZelUtilStringDealloc(&text);
+        if (text)
+            ZelUtilStringDealloc(&text);
     });
 }

@@ -29,6 +29,7 @@ public:
     void keepReturnIfRejected(QKeyEvent *event);
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -44,7 +45,7 @@ private:
     /// Whether the focus came since the last loss: opening a combo box takes it from the field twice.
     bool m_hasFocusToLose = false;
     bool m_isReporting = false;
-    /// Whether the add-on has rejected the text as it is now.
+    /// Whether the add-on has rejected the text as it is now, since the field was shown.
     bool m_isRejected = false;
 };
 
