@@ -358,10 +358,12 @@ static int lists = ZELGUI_INVALID_ID, zoneList, zoneState;
 static void noteZoneCount(void)
 {
     int *zones = 0, zoneCount = 0;
+    char *memory;
     ZelGUIListGetSelectedItems(zoneList, &zones, &zoneCount);
     ZelGUILabelSetDouble(zoneState, zoneCount, "%.0f selected");
     /* Arrays are released as strings are. */
-    ZelUtilStringDealloc((char **)&zones);
+    memory = (char *)zones;
+    ZelUtilStringDealloc(&memory);
 }
 
 static void zonesChanged(const int *positions)
@@ -391,7 +393,7 @@ static void launchLists(void)
         list = ZelGUIListAdd(lists, 100, 180, 1900, 560, 0, 0);
         ZelGUIListSetItems(list, solvers);
         ZelUtilStringListDealloc(&solvers);
-        ZelGUIListAppendItem(list, "Large eddies (\xCE\x94 = 2h)");
+        ZelGUIListAppendItem(list, "LES (\xCE\x94 = 2h)");
         ZelGUIListSetSelectedItem(list, 3);
         ZelGUILabelAdd(lists, 2200, 50, "Zones:");
         zoneList = ZelGUIListAdd(lists, 2200, 180, 1900, 560, 1, zonesChanged);
@@ -403,6 +405,107 @@ static void launchLists(void)
         ZelGUIDialogAddButtonToButtonBox(lists, "All zones", 0, selectAllZones);
     }
     launch(lists);
+}
+
+/* Scales */
+
+static int scales = ZELGUI_INVALID_ID, dragState;
+
+static void opacityChanged(const int *percent)
+{
+    ZelGUILabelSetText(dragState, *percent == 100 ? "Opaque" : "Translucent");
+}
+
+static void launchScales(void)
+{
+    if (scales == ZELGUI_INVALID_ID) {
+        int scale;
+        scales = makeDialog(4200, 700, "Scales");
+        ZelGUILabelAdd(scales, 100, 180, "Opacity (%):");
+        scale = ZelGUIScaleAdd(scales, 1600, 170, 2400, 150, 0, 100, 0, opacityChanged, 0);
+        ZelGUIScaleSetValue(scale, 40);
+        ZelGUILabelAdd(scales, 100, 480, "Time step:");
+        scale = ZelGUIScaleAdd(scales, 1600, 470, 2400, 150, 1, 24, 0, 0, 0);
+        ZelGUIScaleShowNumericDisplay(scale, 0);
+        dragState = ZelGUILabelAdd(scales, 1600, 330, "Translucent");
+    }
+    launch(scales);
+}
+
+/* Forms */
+
+static int forms = ZELGUI_INVALID_ID, pages[2];
+
+static void pageChosen(const int *position)
+{
+    ZelGUIFormSetCurrentPage(pages[*position - 1]);
+}
+
+static void launchForms(void)
+{
+    if (forms == ZELGUI_INVALID_ID) {
+        int form, field;
+        forms = makeDialog(4200, 700, "Forms");
+        ZelGUILabelAdd(forms, 100, 70, "Cut by:");
+        ZelGUIOptionMenuAdd(forms, 1600, 50, 2400, 140, "Plane, Sphere", pageChosen);
+        form = ZelGUIFormAdd(forms, 100, 250, 3900, 400);
+        pages[0] = ZelGUIFormAddPage(form);
+        ZelGUILabelAdd(pages[0], 1, 20, "Distance:");
+        field = ZelGUITextFieldAdd(pages[0], 1500, 1, 2400, 140, 0);
+        ZelGUITextFieldSetDouble(field, 0.75, "%g");
+        pages[1] = ZelGUIFormAddPage(form);
+        ZelGUILabelAdd(pages[1], 1, 20, "Radius:");
+        ZelGUITextFieldAdd(pages[1], 1500, 1, 2400, 140, 0);
+        ZelGUILabelAdd(pages[1], 1, 210, "Center:");
+        ZelGUITextFieldAdd(pages[1], 1500, 190, 2400, 140, 0);
+    }
+    launch(forms);
+}
+
+/* Tabs */
+
+static int tabs = ZELGUI_INVALID_ID, visits[2];
+
+static void pageShown(const int *page)
+{
+    ZelGUILabelSetText(visits[0], "Seen again");
+    ZelGUILabelSetText(visits[1], "Seen");
+    (void)page;
+}
+
+static void launchTabs(void)
+{
+    if (tabs == ZELGUI_INVALID_ID) {
+        int tab, page, i;
+        static const char *const names[] = {"Lines", "Shading"};
+        tabs = makeDialog(4200, 900, "Tabs");
+        tab = ZelGUITabAdd(tabs, 100, 250, 3900, 600, pageShown, 0);
+        for (i = 0; i < 2; ++i) {
+            page = ZelGUITabAddPage(tab, names[i]);
+            ZelGUIToggleAdd(page, 100, 80, 3000, 140, i == 0 ? "Show lines" : "Smooth shading", 0);
+            visits[i] = ZelGUILabelAdd(page, 100, 300, "Not seen again");
+        }
+    }
+    launch(tabs);
+}
+
+/* Frames and separators */
+
+static int frames = ZELGUI_INVALID_ID;
+
+static void launchFrames(void)
+{
+    if (frames == ZELGUI_INVALID_ID) {
+        int frame;
+        frames = makeDialog(4400, 900, "Frames and separators");
+        frame = ZelGUIFrameAdd(frames, 100, 150, 1900, 450, "With a title");
+        ZelGUIToggleAdd(frame, 100, 200, 1700, 140, "Inside", 0);
+        ZelGUIFrameAdd(frames, 2400, 150, 1900, 450, 0);
+        ZelGUIToggleAdd(frames, 2500, 250, 1700, 140, "Above one", 0);
+        ZelGUIVertSeparatorAdd(frames, 2200, 100, 500);
+        ZelGUIHorzSeparatorAdd(frames, 100, 720, 4200);
+    }
+    launch(frames);
 }
 
 /* A modeless dialog */
@@ -442,5 +545,9 @@ void ZelAddOnInit(void)
     ZelUtilAddOnRegister("Multi-line text", "Text of several lines", launchTexts);
     ZelUtilAddOnRegister("Menus", "Menu bar, sub-menu, items, toggles", launchMenuBars);
     ZelUtilAddOnRegister("Lists", "Any number of choices", launchLists);
+    ZelUtilAddOnRegister("Scales", "Sliders with their value", launchScales);
+    ZelUtilAddOnRegister("Forms", "Pages that the add-on switches", launchForms);
+    ZelUtilAddOnRegister("Tabs", "Pages that the user switches", launchTabs);
+    ZelUtilAddOnRegister("Frames and separators", "What groups and divides", launchFrames);
     ZelUtilAddOnRegister("Modeless dialog", "A dialog beside the host's other windows", launchModeless);
 }

@@ -73,8 +73,8 @@ QString readSelection(int id)
     int count = 77;
     ZelGUIListGetSelectedItems(id, &selected, &count);
     const bool isUntouched = selected == &untouched;
-    if (!isUntouched)
-        ZelUtilStringDealloc(reinterpret_cast<char **>(&selected));
+    char *memory = reinterpret_cast<char *>(isUntouched ? nullptr : selected);
+    ZelUtilStringDealloc(&memory);
     return QStringLiteral("%1 %2").arg(count).arg(isUntouched ? "untouched" : "new");
 }
 

@@ -31,6 +31,8 @@ gone() { ! shown "$1"; }
 active() { [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ]; }
 # Window managers are not always in time to give the focus back when a window closes; a user would click.
 activated() { active "$1" || { xdotool search --onlyvisible --name "^$1\$" windowactivate 2>/dev/null || true; false; }; }
+# A message has the title of the main window.
+windows_of_host() { [ "$(xdotool search --onlyvisible --name '^zelhost$' 2>/dev/null | wc -l)" -eq "$1" ]; }
 ended() { ! kill -0 "$host" 2>/dev/null; }
 
 # Clicks a place of a window in pixels from its left and upper edge, or, if negative, from its right and lower one.

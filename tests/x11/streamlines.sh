@@ -7,8 +7,6 @@ set -eu
 . "$(dirname "$0")/desktop.sh"
 
 dialog='Integrate streamlines'
-# A message has the title of the main window.
-windows_of_host() { [ "$(xdotool search --onlyvisible --name '^zelhost$' 2>/dev/null | wc -l)" -eq "$1" ]; }
 message_shown() { windows_of_host 2 && active zelhost; }
 dismiss_message() {
     wait_until message_shown

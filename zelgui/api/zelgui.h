@@ -626,8 +626,8 @@ ZELGUI_API int ZelGUIListGetSelectedItem(int listId);
  * range, by Shift and click for example, is in ascending order; selecting an item that is selected already moves it to
  * the end, and what remains of the range that it was in to just before it.
  *
- * @param selected  receives an array that the caller releases with ZelUtilStringDealloc, cast to char **; NULL with
- *                  nothing selected and when the host has no memory; may be NULL, and then there is no array
+ * @param selected  receives an array that the caller releases with ZelUtilStringDealloc, through a char * to it; NULL
+ *                  with nothing selected and when the host has no memory; may be NULL, and then there is no array
  * @param count     receives the number of selected items; may be NULL
  */
 ZELGUI_API void ZelGUIListGetSelectedItems(int listId, int **selected, int *count);

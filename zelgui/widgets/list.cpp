@@ -142,7 +142,7 @@ int rowHeight(QListWidget &list)
     return list.visualItemRect(&passing).height();
 }
 
-/// How many whole rows are as high as the list. A style may give rows no height.
+/// How many whole rows are as high as the list. A host's style may leave a row no height.
 int capacity(QListWidget &list)
 {
     return list.height() / std::max(rowHeight(list), 1);
