@@ -9,6 +9,7 @@
 #include <QDialog>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QProcess>
 #include <QPushButton>
 #include <QTabBar>
@@ -187,8 +188,13 @@ QList<Trigger> triggers()
         {"scale, dragged", Scale,
          withWidget(addScale,
                     [](QWidget *scale) {
-                        QTest::mousePress(scale, Qt::LeftButton, Qt::NoModifier, QPoint(5, scale->height() / 2));
-                        QTest::mouseMove(scale, QPoint(scale->width() / 2, scale->height() / 2));
+                        const QPoint handle(5, scale->height() / 2);
+                        const QPoint middle(scale->width() / 2, scale->height() / 2);
+                        QTest::mousePress(scale, Qt::LeftButton, Qt::NoModifier, handle);
+                        // The test library of Qt 5 moves the mouse without its buttons.
+                        QMouseEvent move(QEvent::MouseMove, middle, scale->mapToGlobal(middle), Qt::NoButton,
+                                         Qt::LeftButton, Qt::NoModifier);
+                        QApplication::sendEvent(scale, &move);
                     })},
         {"scale, while it is made", Drag,
          [](Scene &scene) { ZelGUIScaleAdd(scene.dialog, 100, 300, 1000, 100, 0, 9, 0, nullptr, reportInt<Drag>); }},

@@ -8,6 +8,7 @@
 #include <QDialogButtonBox>
 #include <QMetaEnum>
 #include <QMetaProperty>
+#include <QTabBar>
 #include <QTimer>
 
 #include <array>
@@ -155,6 +156,8 @@ void ZelTest::whenModal(int dialogId, std::function<void()> step)
 
 QStringList ZelTest::snapshot() const
 {
+    // Qt 5 can't read this property under its own type's name otherwise.
+    qRegisterMetaType<QTabBar::SelectionBehavior>("SelectionBehavior");
     QStringList state;
     for (const QObject *const object : m_mainWindow->findChildren<QObject *>()) {
         const QMetaObject *const meta = object->metaObject();

@@ -65,7 +65,7 @@ end_host_without() {
     wait "$host" || { echo "The host fails with $?"; exit 1; }
 }
 
-Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$folder/display" 2>/dev/null &
+Xvfb -displayfd 3 -screen 0 1024x768x24 -dpi 96 -nolisten tcp 3>"$folder/display" 2>/dev/null &
 server=$!
 wait_until test -s "$folder/display"
 DISPLAY=:$(cat "$folder/display")
