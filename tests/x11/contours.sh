@@ -27,7 +27,8 @@ echo "ok: the menus have reached the list"
 # Moving the scale makes new levels; the other tab has a field that rejects.
 # Where exactly it is depends on the toolkit's metrics of the font.
 click "$dialog" -60 103
-click "$dialog" -60 111
+sleep 0.6
+click "$dialog" -60 108
 click "$dialog" 118 53
 sleep 0.3
 click "$dialog" 140 122
