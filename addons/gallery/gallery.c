@@ -451,13 +451,13 @@ static void launchForms(void)
         form = ZelGUIFormAdd(forms, 100, 250, 3900, 400);
         pages[0] = ZelGUIFormAddPage(form);
         ZelGUILabelAdd(pages[0], 1, 20, "Distance:");
-        field = ZelGUITextFieldAdd(pages[0], 1500, 1, 2400, 140, 0);
+        field = ZelGUITextFieldAdd(pages[0], 1500, 1, 2380, 140, 0);
         ZelGUITextFieldSetDouble(field, 0.75, "%g");
         pages[1] = ZelGUIFormAddPage(form);
         ZelGUILabelAdd(pages[1], 1, 20, "Radius:");
-        ZelGUITextFieldAdd(pages[1], 1500, 1, 2400, 140, 0);
+        ZelGUITextFieldAdd(pages[1], 1500, 1, 2380, 140, 0);
         ZelGUILabelAdd(pages[1], 1, 210, "Center:");
-        ZelGUITextFieldAdd(pages[1], 1500, 190, 2400, 140, 0);
+        ZelGUITextFieldAdd(pages[1], 1500, 190, 2380, 140, 0);
     }
     launch(forms);
 }
