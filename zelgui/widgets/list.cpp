@@ -163,10 +163,12 @@ void ZelGUIList::onItemSelectedChanged()
 {
     if (!m_callback || ZelGUIWidgetRepository::instance()->callbacksSuppressed())
         return;
-    std::vector<int> positions = selectedPositions(*this);
-    std::sort(positions.begin(), positions.end());
-    positions.push_back(0);
-    report<const int *>(this, m_callback, positions.data());
+    callOut(this, [this] {
+        std::vector<int> positions = selectedPositions(*this);
+        std::sort(positions.begin(), positions.end());
+        positions.push_back(0);
+        m_callback(positions.data());
+    });
 }
 
 } // namespace orvane::zelgui
