@@ -13,7 +13,7 @@ cmake --install "$build" --prefix "$folder/first" >"$folder/log"
 mv "$folder/first" "$folder/installed"
 installed=$folder/installed
 
-cmake -S "$source/tests/package" -B "$folder/build" "-DHELLO_SOURCE=$source/addons/hello/hello.c" \
+cmake -G Ninja -S "$source/tests/package" -B "$folder/build" "-DHELLO_SOURCE=$source/addons/hello/hello.c" \
     "-DCMAKE_PREFIX_PATH=$installed" >>"$folder/log" 2>&1 || { cat "$folder/log"; exit 1; }
 cmake --build "$folder/build" >>"$folder/log" 2>&1 || { cat "$folder/log"; exit 1; }
 
