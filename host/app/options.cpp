@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <vector>
 
 namespace {
 
@@ -53,6 +54,99 @@ QString helpText(const QCommandLineParser &parser)
     return parser.helpText();
 }
 
+/// One option: how the help presents it, and what it does.
+struct Declaration
+{
+    QCommandLineOption option;
+    /// Takes in one value, empty for an option without values; returns what should have been there, or an empty string.
+    QString (*take)(Options &options, const QString &value);
+};
+
+QCommandLineOption flag(const char *name, const char *description)
+{
+    return QCommandLineOption(QString::fromLatin1(name), QString::fromLatin1(description));
+}
+
+QCommandLineOption valued(const char *name, const char *valueName, const char *description)
+{
+    return QCommandLineOption(QString::fromLatin1(name), QString::fromLatin1(description),
+                              QString::fromLatin1(valueName));
+}
+
+/// In the order in which the help shows them.
+std::vector<Declaration> declarations()
+{
+    return {
+        {flag("batch", "Runs without a window, as if there were no user, does what --launch says and ends."),
+         [](Options &options, const QString &) {
+             options.batch = true;
+             return QString();
+         }},
+        {valued("dpi", "H,V", "Tells add-ons that the screen has H by V dots per inch."),
+         [](Options &options, const QString &value) {
+             options.dotsPerInch = resolution(value);
+             return options.dotsPerInch ? QString()
+                                        : QStringLiteral("two numbers greater than 0 with a comma between them");
+         }},
+        {valued("font", "FAMILY,POINTS", "Uses this font everywhere."),
+         [](Options &options, const QString &value) {
+             options.font = font(value);
+             return options.font ? QString() : QStringLiteral("a font's name, a comma and a size from 0 to 1000");
+         }},
+        {valued("launch", "NAME", "Launches what is registered as NAME. May be given several times."),
+         [](Options &options, const QString &value) {
+             options.launches.append(value);
+             return QString();
+         }},
+        {valued("render", "DIR",
+                "Launches every entry, or those of --launch, saves a picture of its dialog in DIR and ends. Needs no "
+                "display."),
+         [](Options &options, const QString &value) {
+             options.pictureDirectory = value;
+             return value.isEmpty() ? QStringLiteral("a directory") : QString();
+         }},
+        {flag("report-leaks", "Lists, when the program ends, what the add-ons have not released."),
+         [](Options &options, const QString &) {
+             options.reportLeaks = true;
+             return QString();
+         }},
+        {valued("timeout", "SECONDS",
+                "Ends the program when an entry takes longer than this with --render; 20 if not given."),
+         [](Options &options, const QString &value) {
+             options.timeoutSeconds = positiveNumber(value, 1e6);
+             return options.timeoutSeconds ? QString()
+                                           : QStringLiteral("a number of seconds greater than 0, at most a million");
+         }},
+    };
+}
+
+/// What is wrong with the options together, or an empty string.
+QString contradiction(const Options &options)
+{
+    if (!options.pictureDirectory.isEmpty() && options.batch)
+        return QStringLiteral("--batch shows nothing that --render could draw");
+    if (options.timeoutSeconds && options.pictureDirectory.isEmpty())
+        return QStringLiteral("--timeout has an effect only with --render");
+    if (options.addOnFiles.isEmpty())
+        return QStringLiteral("no add-on given; --help tells more");
+    return {};
+}
+
+/// Takes in what the command line gives of one option; returns what is wrong with it, or an empty string.
+QString takeValues(const QCommandLineParser &parser, const Declaration &declaration, Options &options)
+{
+    if (!parser.isSet(declaration.option))
+        return {};
+    const bool isFlag = declaration.option.valueName().isEmpty();
+    const QStringList values = isFlag ? QStringList(QString()) : parser.values(declaration.option);
+    for (const QString &value : values) {
+        const QString expected = declaration.take(options, value);
+        if (!expected.isEmpty())
+            return QStringLiteral("--%1 %2: expected %3").arg(declaration.option.names().constLast(), value, expected);
+    }
+    return {};
+}
+
 } // namespace
 
 CommandLine readCommandLine(const QStringList &arguments, Options &options, QString &text)
@@ -64,44 +158,17 @@ CommandLine readCommandLine(const QStringList &arguments, Options &options, QStr
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
                                      QStringLiteral("Shows the version."));
-    const QCommandLineOption batch(
-        QStringLiteral("batch"),
-        QStringLiteral("Runs without a window, as if there were no user, does what --launch says and ends."));
-    const QCommandLineOption dotsPerInch(QStringLiteral("dpi"),
-                                         QStringLiteral("Tells add-ons that the screen has H by V dots per inch."),
-                                         QStringLiteral("H,V"));
-    const QCommandLineOption fontOption(QStringLiteral("font"), QStringLiteral("Uses this font everywhere."),
-                                        QStringLiteral("FAMILY,POINTS"));
-    const QCommandLineOption launch(QStringLiteral("launch"),
-                                    QStringLiteral("Launches what is registered as NAME. May be given several times."),
-                                    QStringLiteral("NAME"));
-    const QCommandLineOption render(
-        QStringLiteral("render"),
-        QStringLiteral("Launches every entry, or those of --launch, saves a picture of its dialog in DIR and ends. "
-                       "Needs no display."),
-        QStringLiteral("DIR"));
-    const QCommandLineOption reportLeaks(
-        QStringLiteral("report-leaks"),
-        QStringLiteral("Lists, when the program ends, what the add-ons have not released."));
-    const QCommandLineOption timeout(
-        QStringLiteral("timeout"),
-        QStringLiteral("Ends the program when an entry takes longer than this with --render; 20 if not given."),
-        QStringLiteral("SECONDS"));
-    parser.addOptions({help, version, batch, dotsPerInch, fontOption, launch, render, reportLeaks, timeout});
+    parser.addOptions({help, version});
+    const std::vector<Declaration> declared = declarations();
+    for (const Declaration &declaration : declared)
+        parser.addOption(declaration.option);
     parser.addPositionalArgument(QStringLiteral("ADDON"), QStringLiteral("File of an add-on."),
                                  QStringLiteral("ADDON..."));
 
-    const auto wrong = [&text](const QString &message) {
-        text = message;
+    if (!parser.parse(arguments)) {
+        text = parser.errorText();
         return CommandLine::Wrong;
-    };
-    const auto wrongValue = [&parser, &wrong](const QCommandLineOption &option, const QString &expected) {
-        return wrong(
-            QStringLiteral("--%1 %2: expected %3").arg(option.names().constLast(), parser.value(option), expected));
-    };
-
-    if (!parser.parse(arguments))
-        return wrong(parser.errorText());
+    }
     if (parser.isSet(help)) {
         text = helpText(parser);
         return CommandLine::Help;
@@ -112,35 +179,11 @@ CommandLine readCommandLine(const QStringList &arguments, Options &options, QStr
     }
 
     options.addOnFiles = parser.positionalArguments();
-    options.launches = parser.values(launch);
-    options.batch = parser.isSet(batch);
-    options.reportLeaks = parser.isSet(reportLeaks);
-    if (parser.isSet(dotsPerInch)) {
-        options.dotsPerInch = resolution(parser.value(dotsPerInch));
-        if (!options.dotsPerInch)
-            return wrongValue(dotsPerInch, QStringLiteral("two numbers greater than 0 with a comma between them"));
+    for (const Declaration &declaration : declared) {
+        text = takeValues(parser, declaration, options);
+        if (!text.isEmpty())
+            return CommandLine::Wrong;
     }
-    if (parser.isSet(fontOption)) {
-        options.font = font(parser.value(fontOption));
-        if (!options.font)
-            return wrongValue(fontOption, QStringLiteral("a font's name, a comma and a size from 0 to 1000"));
-    }
-    if (parser.isSet(render)) {
-        options.pictureDirectory = parser.value(render);
-        if (options.pictureDirectory.isEmpty())
-            return wrongValue(render, QStringLiteral("a directory"));
-        if (options.batch)
-            return wrong(QStringLiteral("--batch shows nothing that --render could draw"));
-    }
-    if (parser.isSet(timeout)) {
-        const std::optional<double> seconds = positiveNumber(parser.value(timeout), 1e6);
-        if (!seconds)
-            return wrongValue(timeout, QStringLiteral("a number of seconds greater than 0, at most a million"));
-        if (options.pictureDirectory.isEmpty())
-            return wrong(QStringLiteral("--timeout has an effect only with --render"));
-        options.timeoutSeconds = *seconds;
-    }
-    if (options.addOnFiles.isEmpty())
-        return wrong(QStringLiteral("no add-on given; --help tells more"));
-    return CommandLine::Run;
+    text = contradiction(options);
+    return text.isEmpty() ? CommandLine::Run : CommandLine::Wrong;
 }

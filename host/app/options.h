@@ -30,8 +30,10 @@ struct Options
     /// Where the pictures go; empty if none are to be drawn.
     QString pictureDirectory;
     /// How long one entry may take while pictures are drawn.
-    double timeoutSeconds = 20.0;
+    std::optional<double> timeoutSeconds;
 };
+
+const double DefaultTimeoutSeconds = 20.0;
 
 enum class CommandLine { Run, Help, Version, Wrong };
 

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZELHOST_EXITCODES_H
+#define ZELHOST_EXITCODES_H
+
+/// What the program ends with; the help and the documentation list the same.
+enum ExitCode {
+    Success = 0,
+    Failure = 1,
+    LeaksFound = 3,
+};
+
+#endif

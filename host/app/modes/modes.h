@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZELHOST_MODES_H
+#define ZELHOST_MODES_H
+
+#include "../options.h"
+#include "../session.h"
+
+// The ways of running the host, a source each. All return the program's exit code.
+
+/// Without a window, as if there were no user: launches what is chosen.
+int runInBatch(const Session &session);
+/// With the user, after launching what is chosen.
+int runInteractively(const Session &session);
+/// Saves pictures of the dialogs of what is chosen, or of all.
+int drawPictures(const Options &options, const Session &session);
+
+#endif

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "session.h"
+
+#include "addonloader.h"
+#include "messages.h"
+
+#include <QApplication>
+
+using orvane::host::AddOn;
+
+namespace {
+
+void applySettings(const Options &options)
+{
+    if (options.font) {
+        QFont font(options.font->family);
+        font.setPointSizeF(options.font->points);
+        QApplication::setFont(font);
+    }
+    if (options.dotsPerInch)
+        orvane::host::overrideDotsPerInch(options.dotsPerInch->horizontal, options.dotsPerInch->vertical);
+    orvane::host::setBatchModeActive(options.batch);
+}
+
+/// False, after a message, if something that could be called `name` is not registered.
+bool appendEntries(const QString &name, const std::vector<AddOn> &registered, std::vector<AddOn> &entries)
+{
+    QStringList names;
+    bool found = false;
+    for (const AddOn &addOn : registered) {
+        const QString registeredName = QString::fromStdString(addOn.name);
+        names.append(QStringLiteral("\"%1\"").arg(registeredName));
+        if (registeredName == name) {
+            entries.push_back(addOn);
+            found = true;
+        }
+    }
+    if (!found) {
+        const QString all = names.isEmpty() ? QStringLiteral("nothing") : names.join(QLatin1String(", "));
+        complain(QStringLiteral("--launch: no add-on has registered \"%1\"; there is %2").arg(name, all));
+    }
+    return found;
+}
+
+} // namespace
+
+bool openSession(const Options &options, Session &session)
+{
+    applySettings(options);
+    // Before the add-ons are loaded: they may look for it.
+    if (!options.batch)
+        session.window = std::make_unique<HostWindow>();
+    for (const QString &file : options.addOnFiles) {
+        const QString failure = loadAddOn(file);
+        if (!failure.isEmpty()) {
+            complain(failure);
+            return false;
+        }
+    }
+    session.registered = orvane::host::registeredAddOns();
+    for (const QString &name : options.launches) {
+        if (!appendEntries(name, session.registered, session.chosen))
+            return false;
+    }
+    if (session.window) {
+        session.window->setAddOns(session.registered);
+        session.window->show();
+    }
+    return true;
+}
