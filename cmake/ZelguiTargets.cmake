@@ -16,6 +16,9 @@ endif()
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
+# Once loaded, nobody can write to the tables of functions any more.
+add_link_options(LINKER:-z,relro LINKER:-z,now LINKER:-z,noexecstack)
+
 if(ZELGUI_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     # A module finds the sanitizers' run time in the program that loads it.
