@@ -16,6 +16,7 @@
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTextDocument>
 #include <QTextDocumentFragment>
 
 #include <algorithm>
