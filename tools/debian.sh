@@ -24,4 +24,5 @@ build_packages='g++ cmake ninja-build libboost-dev qt6-base-dev fonts-dejavu-cor
 
 # What the tests need besides.
 # shellcheck disable=SC2034
-check_packages='git qtbase5-dev pkg-config binutils clang-format clang-tidy shellcheck doxygen xvfb openbox xdotool abigail-tools'
+check_packages='git qtbase5-dev pkg-config binutils clang-format clang-tidy shellcheck doxygen xvfb openbox xdotool abigail-tools
+fonts-dejavu-extra dbus at-spi2-core python3-pyatspi'

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "accessiblenames.h"
 #include "exitcodes.h"
 #include "messages.h"
 #include "modes/modes.h"
@@ -85,7 +86,8 @@ int main(int argc, char **argv)
     tameToolkitMessages();
     int exitCode = Success;
     {
-        const QApplication application(nameOnly, argv);
+        QApplication application(nameOnly, argv);
+        new AccessibleNames(&application);
         exitCode = runHost(options);
     }
     // After the last window, which may hold memory until it goes. An error that was reported keeps its exit code.

@@ -94,13 +94,6 @@ QString ownName(const QWidget &widget)
     return text.isEmpty() && is<QAbstractButton>(&widget) ? withoutColon(withoutMarkup(widget.toolTip())) : text;
 }
 
-bool isControl(const QWidget &widget)
-{
-    return is<QAbstractButton>(&widget) || is<QLineEdit>(&widget) || is<QComboBox>(&widget) ||
-           is<QAbstractSpinBox>(&widget) || is<QAbstractSlider>(&widget) || is<QAbstractScrollArea>(&widget) ||
-           is<QTabWidget>(&widget);
-}
-
 /// Whether somebody hides it; what is hidden only because its window hasn't been shown yet is going to be seen.
 bool isHiddenItself(const QWidget &widget)
 {
@@ -231,29 +224,6 @@ const QWidget *namedBy(const QLabel &label)
     return below.needsLabel() ? below.widget : nullptr;
 }
 
-/// The nearest of the labels that name the widget; those beside it come before those above it.
-QString labelTextFor(const QWidget &widget)
-{
-    const QLabel *nearest = nullptr;
-    int nearestGap = Far;
-    for (const QObject *const object : siblingsOf(widget)) {
-        const auto *const label = qobject_cast<const QLabel *>(object);
-        if (!label || !isCaption(*label))
-            continue;
-        if (label->buddy() == &widget)
-            return withoutColon(textOf(*label));
-        const int beside = gapRightwards(label->geometry(), widget.geometry());
-        const int above = gapDownwards(label->geometry(), widget.geometry());
-        // Half of the range of gaps is for either direction.
-        const int gap = beside < Far ? beside / 2 : (above < Far ? Far / 2 + above / 2 : Far);
-        if (gap < nearestGap && namedBy(*label) == &widget) {
-            nearest = label;
-            nearestGap = gap;
-        }
-    }
-    return nearest ? withoutColon(textOf(*nearest)) : QString();
-}
-
 } // namespace
 
 const QWidget &wholeWidget(const QWidget &widget)
@@ -266,11 +236,69 @@ const QWidget &wholeWidget(const QWidget &widget)
     return slider ? *slider : *whole;
 }
 
+QLabel *labelFor(const QWidget &widget)
+{
+    QLabel *nearest = nullptr;
+    int nearestGap = Far;
+    for (QObject *const object : siblingsOf(widget)) {
+        auto *const label = qobject_cast<QLabel *>(object);
+        if (!label || !isCaption(*label))
+            continue;
+        if (label->buddy() == &widget)
+            return label;
+        const int beside = gapRightwards(label->geometry(), widget.geometry());
+        const int above = gapDownwards(label->geometry(), widget.geometry());
+        // Half of the range of gaps is for either direction.
+        const int gap = beside < Far ? beside / 2 : (above < Far ? Far / 2 + above / 2 : Far);
+        if (gap < nearestGap && namedBy(*label) == &widget) {
+            nearest = label;
+            nearestGap = gap;
+        }
+    }
+    return nearest;
+}
+
+namespace {
+
+bool isNameless(const QWidget &control)
+{
+    return ownName(control).isEmpty() && control.toolTip().isEmpty() && !labelFor(control);
+}
+
+/// Whether a control is the only one in its group box without a name: the box's title is then meant for it.
+bool isOnlyNameless(const QWidget &control)
+{
+    if (!is<QGroupBox>(control.parent()))
+        return false;
+    const QObjectList siblings = siblingsOf(control);
+    return std::none_of(siblings.begin(), siblings.end(), [&control](const QObject *object) {
+        const auto *const other = qobject_cast<const QWidget *>(object);
+        return other && other != &control && isControl(*other) && isNameless(*other);
+    });
+}
+
+} // namespace
+
+bool isControl(const QWidget &widget)
+{
+    return is<QAbstractButton>(&widget) || is<QLineEdit>(&widget) || is<QComboBox>(&widget) ||
+           is<QAbstractSpinBox>(&widget) || is<QAbstractSlider>(&widget) || is<QAbstractScrollArea>(&widget) ||
+           is<QTabWidget>(&widget);
+}
+
+bool hasOwnText(const QWidget &widget)
+{
+    return !withoutColon(ownText(widget)).isEmpty();
+}
+
 QString captionOf(const QWidget &widget)
 {
     const QWidget &whole = wholeWidget(widget);
     QString caption = ownName(whole);
-    if (caption.isEmpty() && isControl(whole))
-        caption = labelTextFor(whole);
-    return caption.isEmpty() ? withoutColon(withoutMarkup(whole.toolTip())) : caption;
+    const QLabel *const label = caption.isEmpty() && isControl(whole) ? labelFor(whole) : nullptr;
+    if (label)
+        caption = withoutColon(textOf(*label));
+    if (caption.isEmpty())
+        caption = withoutColon(withoutMarkup(whole.toolTip()));
+    return caption.isEmpty() && isControl(whole) && isOnlyNameless(whole) ? captionOf(*whole.parentWidget()) : caption;
 }

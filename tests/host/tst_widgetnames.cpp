@@ -75,6 +75,7 @@ private Q_SLOTS:
     void labels();
     void markupIsNoText();
     void buddyComesFirst();
+    void titleNamesWhatIsAloneInItsBox();
     void pagesAreCalledAsTheirTabs();
     void partsAreCalledAsTheirWhole();
 };
@@ -216,6 +217,19 @@ void tst_WidgetNames::buddyComesFirst()
     QCOMPARE(captionOf(*field), QStringLiteral("Nearer"));
     buddy->setBuddy(field);
     QCOMPARE(captionOf(*field), QStringLiteral("Seeds"));
+}
+
+void tst_WidgetNames::titleNamesWhatIsAloneInItsBox()
+{
+    QGroupBox box(QStringLiteral("&Levels:"));
+    const auto *const list = new QListWidget(&box);
+    new QCheckBox(QStringLiteral("All"), &box);
+    QCOMPARE(captionOf(*list), QStringLiteral("Levels"));
+    auto *const field = new QLineEdit(&box);
+    QCOMPARE(captionOf(*list), QString());
+    field->setToolTip(QStringLiteral("Count"));
+    QCOMPARE(captionOf(*list), QStringLiteral("Levels"));
+    QCOMPARE(captionOf(*field), QStringLiteral("Count"));
 }
 
 void tst_WidgetNames::pagesAreCalledAsTheirTabs()
