@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "modes.h"
 
+#include "../dialogtour.h"
 #include "../exitcodes.h"
 #include "../messages.h"
-#include "../renderer.h"
+#include "../picturefolder.h"
 
-#include <QApplication>
-#include <QFileInfo>
+#include <cstdio>
 
 int drawPictures(const Options &options, const Session &session)
 {
-    const QDir directory(options.pictureDirectory);
-    if (!directory.mkpath(QStringLiteral(".")) || !QFileInfo(directory.absolutePath()).isWritable()) {
+    PictureFolder folder(options.pictureDirectory);
+    if (!folder.prepare()) {
         complain(QStringLiteral("--render %1: not a directory that can be written to").arg(options.pictureDirectory));
         return Failure;
     }
@@ -20,8 +20,14 @@ int drawPictures(const Options &options, const Session &session)
         complain(QStringLiteral("--render: the add-ons have registered nothing to draw"));
         return Failure;
     }
-    // Only the renderer knows when the last dialog is closed.
-    QApplication::setQuitOnLastWindowClosed(false);
-    Renderer renderer(directory, options.timeoutSeconds.value_or(DefaultTimeoutSeconds));
-    return renderer.run(entries);
+    const auto draw = [&folder](const QString &entry, QDialog &dialog) {
+        const QString file = folder.save(dialog.grab(), entry);
+        if (file.isEmpty())
+            return false;
+        std::printf("%s\n", file.toLocal8Bit().constData());
+        // The watchdog ends the process without flushing.
+        std::fflush(stdout);
+        return true;
+    };
+    return DialogTour(draw, options.timeoutSeconds.value_or(DefaultTimeoutSeconds)).run(entries);
 }

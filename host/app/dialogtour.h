@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#ifndef ZELHOST_RENDERER_H
-#define ZELHOST_RENDERER_H
+#ifndef ZELHOST_DIALOGTOUR_H
+#define ZELHOST_DIALOGTOUR_H
 
 #include "watchdog.h"
 
@@ -8,25 +8,28 @@
 
 #include <QBasicTimer>
 #include <QDialog>
-#include <QDir>
 #include <QObject>
 #include <QPointer>
-#include <QSet>
 
+#include <functional>
 #include <vector>
 
-/// Launches one entry after the other, saves a picture of each one's dialog and closes it.
+/// Launches one entry after the other, has each one's dialog visited and closes it.
 ///
 /// Launching usually blocks in the event loop of a modal dialog, so everything else happens in a poll that this inner
-/// loop runs as well: wait until the dialog was painted, draw it, close all dialogs, the topmost first.
-class Renderer : public QObject
+/// loop runs as well: wait until the dialog was painted, visit it, close all dialogs, the topmost first.
+class DialogTour : public QObject
 {
     Q_OBJECT
 
 public:
-    Renderer(const QDir &directory, double timeoutSeconds);
+    /// Is given the name of an entry and its dialog, once for each entry; false if that ends in an error. It must not
+    /// call the add-on back.
+    using Visitor = std::function<bool(const QString &entry, QDialog &dialog)>;
 
-    /// Runs the event loop until all is drawn; returns the program's exit code.
+    DialogTour(Visitor visitor, double timeoutSeconds);
+
+    /// Runs the event loop until all was visited; returns the program's exit code.
     int run(const std::vector<orvane::host::AddOn> &entries);
 
 protected:
@@ -46,11 +49,10 @@ private:
     void launchNext();
     void finishEntry();
     Shown *find(const QDialog *dialog);
-    void savePicture(QDialog *dialog);
+    void visit(QDialog *dialog);
     void close(QDialog *dialog);
-    QString pictureFile(const QString &name);
 
-    const QDir m_directory;
+    const Visitor m_visitor;
     Watchdog m_watchdog;
     QBasicTimer m_poll;
     std::vector<orvane::host::AddOn> m_entries;
@@ -60,12 +62,11 @@ private:
     bool m_entryActive = false;
     /// While the add-on's function has not returned.
     bool m_launching = false;
-    bool m_pictureTaken = false;
+    bool m_visited = false;
     /// Polls in a row that found the entry's function returned and no dialog.
     int m_quietPolls = 0;
     /// Visible dialogs in the order in which they came up, the topmost last.
     std::vector<Shown> m_shown;
-    QSet<QString> m_files;
     bool m_failed = false;
 };
 

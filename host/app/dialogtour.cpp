@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "renderer.h"
+#include "dialogtour.h"
 
 #include "messages.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
-#include <QPixmap>
 #include <QPushButton>
 #include <QTimerEvent>
 
 #include <algorithm>
-#include <cstdio>
+#include <utility>
 
 namespace {
 
@@ -35,14 +34,18 @@ QList<QAbstractButton *> endingButtons(const QDialog *dialog)
 
 } // namespace
 
-Renderer::Renderer(const QDir &directory, double timeoutSeconds) : m_directory(directory), m_watchdog(timeoutSeconds) {}
+DialogTour::DialogTour(Visitor visitor, double timeoutSeconds)
+    : m_visitor(std::move(visitor)), m_watchdog(timeoutSeconds)
+{}
 
-int Renderer::run(const std::vector<orvane::host::AddOn> &entries)
+int DialogTour::run(const std::vector<orvane::host::AddOn> &entries)
 {
+    // Only the tour knows when the last dialog is closed.
+    QApplication::setQuitOnLastWindowClosed(false);
     m_entries = entries;
     qApp->installEventFilter(this);
     m_poll.start(PollMilliseconds, this);
-    QMetaObject::invokeMethod(this, &Renderer::launchNext, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &DialogTour::launchNext, Qt::QueuedConnection);
     QCoreApplication::exec();
     m_poll.stop();
     qApp->removeEventFilter(this);
@@ -53,7 +56,7 @@ int Renderer::run(const std::vector<orvane::host::AddOn> &entries)
     return m_failed ? 1 : 0;
 }
 
-bool Renderer::eventFilter(QObject *watched, QEvent *event)
+bool DialogTour::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::Show && event->type() != QEvent::Paint)
         return false;
@@ -71,7 +74,7 @@ bool Renderer::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-void Renderer::timerEvent(QTimerEvent *event)
+void DialogTour::timerEvent(QTimerEvent *event)
 {
     if (event->timerId() != m_poll.timerId() || !m_entryActive)
         return;
@@ -87,8 +90,8 @@ void Renderer::timerEvent(QTimerEvent *event)
     m_quietPolls = 0;
 
     // The entry's dialog is its first one; what lies on top of it is a message.
-    if (!m_pictureTaken && m_shown.front().painted)
-        savePicture(m_shown.front().dialog);
+    if (!m_visited && m_shown.front().painted)
+        visit(m_shown.front().dialog);
     const Shown &top = m_shown.back();
     if (!top.painted || top.closing)
         return;
@@ -103,7 +106,7 @@ void Renderer::timerEvent(QTimerEvent *event)
         Qt::QueuedConnection);
 }
 
-void Renderer::launchNext()
+void DialogTour::launchNext()
 {
     if (m_index == m_entries.size()) {
         QCoreApplication::quit();
@@ -112,7 +115,7 @@ void Renderer::launchNext()
     const orvane::host::AddOn &entry = m_entries[m_index];
     m_watchdog.watch(entry.name);
     m_shown.clear();
-    m_pictureTaken = false;
+    m_visited = false;
     m_quietPolls = 0;
     m_entryActive = true;
     m_launching = true;
@@ -120,40 +123,33 @@ void Renderer::launchNext()
     m_launching = false;
 }
 
-void Renderer::finishEntry()
+void DialogTour::finishEntry()
 {
     m_watchdog.rest();
     m_entryActive = false;
-    if (!m_pictureTaken) {
+    if (!m_visited) {
         complain(QStringLiteral("\"%1\" has not shown a dialog").arg(QString::fromStdString(m_entries[m_index].name)));
         m_failed = true;
     }
     ++m_index;
-    QMetaObject::invokeMethod(this, &Renderer::launchNext, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &DialogTour::launchNext, Qt::QueuedConnection);
 }
 
-Renderer::Shown *Renderer::find(const QDialog *dialog)
+DialogTour::Shown *DialogTour::find(const QDialog *dialog)
 {
     const auto found =
         std::find_if(m_shown.begin(), m_shown.end(), [dialog](const Shown &shown) { return shown.dialog == dialog; });
     return found == m_shown.end() ? nullptr : &*found;
 }
 
-void Renderer::savePicture(QDialog *dialog)
+void DialogTour::visit(QDialog *dialog)
 {
-    m_pictureTaken = true;
-    const QString file = m_directory.absoluteFilePath(pictureFile(QString::fromStdString(m_entries[m_index].name)));
-    if (dialog->grab().save(file, "PNG")) {
-        std::printf("%s\n", file.toLocal8Bit().constData());
-        // The watchdog ends the process without flushing.
-        std::fflush(stdout);
-    } else {
-        complain(QStringLiteral("%1: cannot be written").arg(file));
+    m_visited = true;
+    if (!m_visitor(QString::fromStdString(m_entries[m_index].name), *dialog))
         m_failed = true;
-    }
 }
 
-void Renderer::close(QDialog *dialog)
+void DialogTour::close(QDialog *dialog)
 {
     Shown *shown = find(dialog);
     if (!shown || shown->closing)
@@ -170,20 +166,4 @@ void Renderer::close(QDialog *dialog)
     shown = find(watched);
     if (watched && shown)
         shown->closing = false;
-}
-
-QString Renderer::pictureFile(const QString &name)
-{
-    QString base;
-    for (const QChar c : name) {
-        const bool kept = (c >= QLatin1Char('a') && c <= QLatin1Char('z')) ||
-                          (c >= QLatin1Char('A') && c <= QLatin1Char('Z')) ||
-                          (c >= QLatin1Char('0') && c <= QLatin1Char('9')) || QLatin1String("-_. ").contains(c);
-        base += kept ? c : QLatin1Char('_');
-    }
-    QString file = base + QLatin1String(".png");
-    for (int number = 2; m_files.contains(file); ++number)
-        file = QStringLiteral("%1-%2.png").arg(base, QString::number(number));
-    m_files.insert(file);
-    return file;
 }
