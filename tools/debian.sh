@@ -2,6 +2,9 @@
 # shellcheck shell=sh
 # Sourced by the commands of the top folder: what a bare Debian 12 lacks gets installed.
 
+as_root=
+[ "$(id -u)" -eq 0 ] || as_root=sudo
+
 # Installs those of the named packages that are missing; as root, or through sudo.
 require_packages() {
     missing=
@@ -10,8 +13,6 @@ require_packages() {
     done
     [ -n "$missing" ] || return 0
     echo "Installing:$missing"
-    as_root=
-    [ "$(id -u)" -eq 0 ] || as_root=sudo
     $as_root apt-get update -qq
     # The names have to be split into words.
     # shellcheck disable=SC2086
@@ -25,4 +26,9 @@ build_packages='g++ cmake ninja-build libboost-dev qt6-base-dev fonts-dejavu-cor
 # What the tests need besides.
 # shellcheck disable=SC2034
 check_packages='git qtbase5-dev pkg-config binutils clang-format clang-tidy shellcheck doxygen xvfb openbox xdotool abigail-tools
-fonts-dejavu-extra dbus at-spi2-core python3-pyatspi'
+fonts-dejavu-extra dbus at-spi2-core python3-pyatspi
+python3 gfortran man-db desktop-file-utils'
+
+# What it takes to make Debian packages and to try them in a root folder of their own.
+# shellcheck disable=SC2034
+package_packages='git debhelper dpkg-dev lintian debootstrap'

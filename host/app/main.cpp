@@ -80,6 +80,10 @@ int main(int argc, char **argv)
         std::printf("%s", text.toLocal8Bit().constData());
         return Success;
     }
+    if (!options.newAddOnDirectory.isEmpty()) {
+        const AddOnLanguage language = options.newAddOnLanguage.value_or(AddOnLanguage::C);
+        return writeNewAddOn(options.newAddOnDirectory, language, arguments.value(0));
+    }
     if (!choosePlatform(options))
         return Failure;
 

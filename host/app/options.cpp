@@ -44,6 +44,15 @@ std::optional<Options::Font> font(const QString &text)
     return Options::Font{family, *points};
 }
 
+std::optional<AddOnLanguage> language(const QString &text)
+{
+    if (text == QLatin1String("C"))
+        return AddOnLanguage::C;
+    if (text == QLatin1String("C++"))
+        return AddOnLanguage::Cxx;
+    return std::nullopt;
+}
+
 /// The parser's help asks the application object for the program's name.
 QString helpText(const QCommandLineParser &parser)
 {
@@ -93,10 +102,22 @@ std::vector<Declaration> declarations()
              options.font = font(value);
              return options.font ? QString() : QStringLiteral("a font's name, a comma and a size from 0 to 1000");
          }},
+        {valued("language", "LANGUAGE", "With --new-addon: C, which is meant without this option, or C++."),
+         [](Options &options, const QString &value) {
+             options.newAddOnLanguage = language(value);
+             return options.newAddOnLanguage ? QString() : QStringLiteral("C or C++");
+         }},
         {valued("launch", "NAME", "Launches what is registered as NAME. May be given several times."),
          [](Options &options, const QString &value) {
              options.launches.append(value);
              return QString();
+         }},
+        {valued("new-addon", "DIR",
+                "Writes the project of a new add-on, with a dialog and a test of it, into DIR, which has to be empty "
+                "or missing."),
+         [](Options &options, const QString &value) {
+             options.newAddOnDirectory = value;
+             return value.isEmpty() ? QStringLiteral("a directory") : QString();
          }},
         {valued("render", "DIR",
                 "Launches every entry, or those of --launch, saves a picture of its dialog in DIR and ends. Needs no "
@@ -121,8 +142,14 @@ std::vector<Declaration> declarations()
 }
 
 /// What is wrong with the options together, or an empty string.
-QString contradiction(const Options &options)
+QString contradiction(const Options &options, const QStringList &given)
 {
+    if (!options.newAddOnDirectory.isEmpty()) {
+        const bool alone = given.size() == (options.newAddOnLanguage ? 2 : 1) && options.addOnFiles.isEmpty();
+        return alone ? QString() : QStringLiteral("--new-addon runs no add-ons; only --language goes with it");
+    }
+    if (options.newAddOnLanguage)
+        return QStringLiteral("--language has an effect only with --new-addon");
     if (!options.pictureDirectory.isEmpty() && options.batch)
         return QStringLiteral("--batch shows nothing that --render could draw");
     if (options.timeoutSeconds && options.pictureDirectory.isEmpty())
@@ -184,6 +211,6 @@ CommandLine readCommandLine(const QStringList &arguments, Options &options, QStr
         if (!text.isEmpty())
             return CommandLine::Wrong;
     }
-    text = contradiction(options);
+    text = contradiction(options, parser.optionNames());
     return text.isEmpty() ? CommandLine::Run : CommandLine::Wrong;
 }

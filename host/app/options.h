@@ -2,6 +2,8 @@
 #ifndef ZELHOST_OPTIONS_H
 #define ZELHOST_OPTIONS_H
 
+#include "newaddon.h"
+
 #include <QStringList>
 
 #include <optional>
@@ -31,6 +33,9 @@ struct Options
     QString pictureDirectory;
     /// How long one entry may take while pictures are drawn.
     std::optional<double> timeoutSeconds;
+    /// Where to write the project of a new add-on; empty if none is to be written.
+    QString newAddOnDirectory;
+    std::optional<AddOnLanguage> newAddOnLanguage;
 };
 
 const double DefaultTimeoutSeconds = 20.0;

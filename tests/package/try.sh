@@ -1,30 +1,51 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Installs a build into an empty folder, moves it away, builds the example add-on against it with CMake and with
-# pkg-config, and runs both in the installed host.
-# Usage: try.sh BUILD_FOLDER SOURCE_FOLDER
+# Builds add-ons of each language against an installed package, with CMake and with pkg-config, and runs them in the
+# installed host.
+# Usage: try.sh INSTALLED_FOLDER SOURCE_FOLDER
 set -eu
-build=$1
+installed=$1
 source=$2
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
-
-cmake --install "$build" --prefix "$folder/first" >"$folder/log"
-mv "$folder/first" "$folder/installed"
-installed=$folder/installed
-
-cmake -G Ninja -S "$source/tests/package" -B "$folder/build" "-DHELLO_SOURCE=$source/addons/hello/hello.c" \
-    "-DCMAKE_PREFIX_PATH=$installed" >>"$folder/log" 2>&1 || { cat "$folder/log"; exit 1; }
-cmake --build "$folder/build" >>"$folder/log" 2>&1 || { cat "$folder/log"; exit 1; }
-
+quietly() { "$@" >"$folder/log" 2>&1 || { cat "$folder/log"; exit 1; }; }
+fail() { echo "$1"; cat "$folder/log"; exit 1; }
+# Draws the picture $1 of the add-on $2.
+draw() {
+    rm -f "$folder/$1"
+    "$installed/bin/zelhost" --report-leaks --render "$folder" "$2"
+    [ -s "$folder/$1" ]
+}
+CMAKE_PREFIX_PATH=$installed
 PKG_CONFIG_PATH=$(dirname "$(find "$installed" -name zelgui.pc)")
-export PKG_CONFIG_PATH
+CMAKE_GENERATOR=Ninja
+export CMAKE_PREFIX_PATH PKG_CONFIG_PATH CMAKE_GENERATOR
+
 # The flags have to be split into words.
 # shellcheck disable=SC2046
-cc -std=c99 -shared -fPIC -o "$folder/hello-pc.so" "$source/addons/hello/hello.c" $(pkg-config --cflags --libs zelgui)
+cc -std=c99 -shared -fPIC -o "$folder/hello.so" "$source/addons/hello/hello.c" $(pkg-config --cflags --libs zelgui)
+draw Hello.png "$folder/hello.so"
 
-for addon in "$folder/build/hello.so" "$folder/hello-pc.so"; do
-    rm -f "$folder/Hello.png"
-    "$installed/bin/zelhost" --report-leaks --render "$folder" "$addon"
-    test -s "$folder/Hello.png"
+quietly cmake -S "$source/tests/package/project" -B "$folder/build"
+quietly cmake --build "$folder/build"
+if [ -e "$folder/build/fortran.so" ]; then
+    draw Fortran.png "$folder/build/fortran.so"
+    exported=$(nm --dynamic --defined-only --format=posix "$folder/build/fortran.so" | cut -d ' ' -f 1)
+    [ "$exported" = ZelAddOnInit ] || { echo "Exported: $exported"; exit 1; }
+fi
+! cmake --build "$folder/build" --target mangled >"$folder/log" 2>&1 || fail "An add-on without ZelAddOnInit links."
+grep -q ZelAddOnInit "$folder/log" || fail "The reason isn't told."
+
+for language in C C++; do
+    new="$folder/new in $language"
+    quietly "$installed/bin/zelhost" --new-addon "$new" --language $language
+    quietly cmake -S "$new" -B "$new/build" "-DCMAKE_C_FLAGS=-Wall -Wextra -Werror" \
+        "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Werror"
+    quietly cmake --build "$new/build"
+    draw "New in C.png" "$new"/build/*.so
 done
+
+cp -r "$folder/new in C" "$folder/before"
+! "$installed/bin/zelhost" --new-addon "$folder/new in C" 2>"$folder/log" || fail "A project was overwritten."
+grep -q "not empty" "$folder/log" || fail "The reason isn't told."
+diff -r "$folder/before" "$folder/new in C"
