@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/entrypoints.h"
+#include "support/call.h"
 
 #include <common_ui_qt/mainwindow.h>
 #include <zelgui/zelgui.h>
@@ -58,17 +58,21 @@ void tst_NoGui::initTestCase()
 void tst_NoGui::neutralAnswers_data()
 {
     QTest::addColumn<int>("index");
-    const auto all = entryPoints();
-    for (int i = 0; i < all.size(); ++i)
-        QTest::newRow(all[i].name) << i;
+    for (int i = 0; i < entryPoints().size(); ++i)
+        QTest::newRow(entryPoints()[i].name) << i;
 }
 
 void tst_NoGui::neutralAnswers()
 {
     QFETCH(int, index);
-    const EntryPoint entryPoint = entryPoints().at(index);
-    for (const int id : {-1, 0, 1})
-        QCOMPARE(entryPoint.call(id), entryPoint.withoutGui);
+    const EntryPoint &entryPoint = entryPoints()[index];
+    for (const int id : {-1, 0, 1}) {
+        Call call(entryPoint);
+        for (const int identifier : entryPoint.identifiers())
+            call.setNumber(identifier, id);
+        QCOMPARE(call.run(), entryPoint.withoutGui);
+        QVERIFY(call.areOutputsUntouched());
+    }
     QVERIFY(!m_mainWindow || m_mainWindow->findChildren<QDialog *>().isEmpty());
 }
 

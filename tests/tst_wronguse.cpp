@@ -1,27 +1,21 @@
 // SPDX-License-Identifier: MIT
-#include "support/entrypoints.h"
+#include "support/call.h"
+#include "support/scene.h"
+#include "support/snapshot.h"
 #include "support/zeltest.h"
 
 #include <QDialog>
+#include <QRegularExpression>
+#include <QTimer>
 
 #include <algorithm>
 #include <limits>
 
-namespace {
-
-bool isAccepted(const EntryPoint &entryPoint, const QObject *object)
-{
-    const auto accepted = QByteArray(entryPoint.accepts).split(',');
-    return std::any_of(accepted.begin(), accepted.end(),
-                       [object](const QByteArray &name) { return !name.isEmpty() && object->inherits(name); });
-}
-
-} // namespace
-
 // Called in place of the host's, which would wait for the user.
 extern "C" void ZelUtilDialogErrMsg(const char *) {}
 
-/// Every function with identifiers that it can't use: the neutral answer, and nothing changes.
+/// Every function with every kind of object and with identifiers of nothing in each identifier argument, and with null
+/// for each pointer.
 class tst_WrongUse : public ZelTest
 {
     Q_OBJECT
@@ -29,55 +23,65 @@ class tst_WrongUse : public ZelTest
 private Q_SLOTS:
     void initTestCase();
     void tableIsComplete();
-    void identifiers_data();
-    void identifiers();
-    void nullArguments_data() { identifiers_data(); }
-    void nullArguments();
+    void wrongIdentifiers_data();
+    void wrongIdentifiers();
+    void rightIdentifiers_data() { wrongIdentifiers_data(); }
+    void rightIdentifiers();
+    void nullIsEmpty_data();
+    void nullIsEmpty();
 
 private:
-    QVector<int> m_objects;
-    int m_destroyed = -2;
+    bool isAccepted(const QStringList &accepted, const SceneObject &candidate) const;
+    QVector<int> rightIds(const Parameter &parameter) const;
+    QVector<int> wrongIds(const Parameter &parameter) const;
+    void show();
+
+    QVector<SceneObject> m_objects;
+    QVector<int> m_nothing;
 };
 
 void tst_WrongUse::initTestCase()
 {
     ZelTest::initTestCase();
-    const int dialog = createModal();
-    m_objects << dialog;
-    m_objects << ZelGUIButtonAdd(dialog, 100, 100, 1000, 100, "Button", nullptr);
-    m_objects << ZelGUIToggleAdd(dialog, 100, 300, 1000, 100, "Toggle", nullptr);
-    m_objects << ZelGUILabelAdd(dialog, 100, 500, "Label");
-    const unsigned char pixel[] = {255, 0, 0};
-    m_objects << ZelGUIBitmapButtonAdd(dialog, 100, 100, 100, 100, 1, 1, pixel, 0, 0, 0, 0, nullptr);
-    m_objects << ZelGUIBitmapToggleAdd(dialog, 100, 100, 100, 100, 1, 1, pixel, 0, 0, 0, 0, nullptr);
-    m_objects << ZelGUIRadioBoxAdd(dialog, 100, 100, 1000, 200, "A", "B", nullptr, nullptr, nullptr, nullptr);
-    m_objects << ZelGUIOptionMenuAdd(dialog, 100, 100, 1000, 100, "A,B", nullptr);
-    m_objects << ZelGUITextFieldAdd(dialog, 100, 100, 1000, 100, nullptr);
-    m_objects << ZelGUISpinTextFieldAdd(dialog, 100, 100, 1000, 100, nullptr, nullptr, nullptr);
-    m_objects << ZelGUITextAdd(dialog, 100, 100, 1000, 500, 0, nullptr);
-    m_objects << ZelGUIScaleAdd(dialog, 100, 100, 1000, 100, 0, 9, 0, nullptr, nullptr);
-    m_objects << ZelGUIFormAdd(dialog, 100, 100, 1000, 500);
-    m_objects << ZelGUIFormAddPage(m_objects.last());
-    m_objects << ZelGUITabAdd(dialog, 100, 100, 1000, 500, nullptr, nullptr);
-    m_objects << ZelGUITabAddPage(m_objects.last(), "Page");
-    m_objects << ZelGUIFrameAdd(dialog, 100, 100, 1000, 500, "Frame");
-    m_objects << ZelGUIHorzSeparatorAdd(dialog, 100, 100, 1000);
-    const int bar = ZelGUIMenuBarAdd(dialog);
-    const int menu = ZelGUIMenuAdd(bar, "Menu");
-    m_objects << bar << menu << ZelGUIMenuAddItem(menu, "Item", nullptr, nullptr);
-    m_objects << ZelGUIMenuAddToggle(menu, "Toggle", nullptr, nullptr);
-    const int list = ZelGUIListAdd(dialog, 100, 100, 1000, 500, 1, nullptr);
-    ZelGUIListAppendItem(list, "A");
-    ZelGUIListAppendItem(list, "B");
-    ZelGUIListSetSelectedItem(list, 2);
-    m_objects << list;
-    for (const int id : m_objects)
-        QVERIFY(object<QObject>(id));
     const int doomed = createModal();
-    m_destroyed = ZelGUIToggleAdd(doomed, 100, 100, 1000, 100, "Destroyed", nullptr);
+    const int destroyed = ZelGUIToggleAdd(doomed, 100, 100, 1000, 100, "Destroyed", nullptr);
     delete object<QDialog>(doomed);
+    m_objects = makeEveryKind(ZELGUI_MAIN_WINDOW);
+    for (const SceneObject &each : m_objects)
+        QVERIFY2(object<QObject>(each.id), each.kind);
+    using Limits = std::numeric_limits<int>;
+    m_nothing = {destroyed, -1, -2, m_objects.last().id + 1, Limits::min(), Limits::max()};
     // Some properties make what they tell of when they are read first.
-    snapshot();
+    snapshot(mainWindow());
+}
+
+bool tst_WrongUse::isAccepted(const QStringList &accepted, const SceneObject &candidate) const
+{
+    return std::any_of(accepted.begin(), accepted.end(), [&](const QString &name) {
+        return name == QLatin1String(candidate.kind) || object<QObject>(candidate.id)->inherits(name.toLatin1());
+    });
+}
+
+QVector<int> tst_WrongUse::rightIds(const Parameter &parameter) const
+{
+    QVector<int> ids;
+    for (const SceneObject &candidate : m_objects) {
+        if (isAccepted(parameter.accepts, candidate))
+            ids << candidate.id;
+    }
+    return ids;
+}
+
+QVector<int> tst_WrongUse::wrongIds(const Parameter &parameter) const
+{
+    QVector<int> ids = m_nothing;
+    if (parameter.name == QLatin1String("parentDialogId"))
+        ids.removeAll(ZELGUI_MAIN_WINDOW);
+    for (const SceneObject &candidate : m_objects) {
+        if (!isAccepted(parameter.accepts, candidate))
+            ids << candidate.id;
+    }
+    return ids;
 }
 
 void tst_WrongUse::tableIsComplete()
@@ -90,44 +94,141 @@ void tst_WrongUse::tableIsComplete()
     QCOMPARE(covered, declaredFunctions());
 }
 
-void tst_WrongUse::identifiers_data()
+void tst_WrongUse::wrongIdentifiers_data()
 {
     QTest::addColumn<int>("index");
-    const auto all = entryPoints();
-    for (int i = 0; i < all.size(); ++i)
-        QTest::newRow(all[i].name) << i;
+    for (int i = 0; i < entryPoints().size(); ++i)
+        QTest::newRow(entryPoints()[i].name) << i;
 }
 
-void tst_WrongUse::identifiers()
+// The neutral answer, and nothing changes. Functions that look at two identifiers need both of them.
+void tst_WrongUse::wrongIdentifiers()
 {
     QFETCH(int, index);
-    const EntryPoint entryPoint = entryPoints().at(index);
-    QVector<int> wrong = {-2, m_destroyed, 1000000, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()};
-    const bool takesMainWindow = QByteArray(entryPoint.name).startsWith("ZelGUIDialogCreate");
-    if (!takesMainWindow)
-        wrong << -1;
-    for (const int id : m_objects) {
-        if (!isAccepted(entryPoint, object<QObject>(id)))
-            wrong << id;
+    const EntryPoint &entryPoint = entryPoints()[index];
+    const QStringList before = snapshot(mainWindow());
+    for (const int wrong : entryPoint.identifiers()) {
+        const Parameter &parameter = entryPoint.parameters[wrong];
+        // One that isn't read does no harm, and says nothing about the others.
+        if (parameter.accepts.isEmpty() && entryPoint.identifiers().size() > 1)
+            continue;
+        for (const int id : wrongIds(parameter)) {
+            Call call(entryPoint);
+            for (const int other : entryPoint.identifiers())
+                call.setNumber(other, rightIds(entryPoint.parameters[other]).value(0, id));
+            call.setNumber(wrong, id);
+            QVERIFY2(call.run() == entryPoint.neutral, qPrintable(QString::number(id)));
+            QVERIFY2(call.areOutputsUntouched(), qPrintable(QString::number(id)));
+        }
     }
-
-    const QStringList before = snapshot();
-    for (const int id : wrong)
-        QVERIFY2(entryPoint.call(id) == entryPoint.neutral, qPrintable(QString::number(id)));
-    QCOMPARE(snapshot(), before);
+    if (entryPoint.identifiers().isEmpty())
+        QCOMPARE(Call(entryPoint).run(), entryPoint.neutral);
+    QCOMPARE(snapshot(mainWindow()), before);
 }
 
-// The right kind of object and null for every pointer. Comes last: it changes the objects.
-void tst_WrongUse::nullArguments()
+/// Lets the user see what has become of the objects.
+void tst_WrongUse::show()
+{
+    QWidget *const dialog = object<QWidget>(m_objects.first().id);
+    dialog->show();
+    QCoreApplication::processEvents();
+    dialog->grab();
+    dialog->hide();
+}
+
+// With objects it works on, a function does it: with harmless arguments, then with null for one pointer after the
+// other, and for all of them. Other dialogs are not concerned.
+void tst_WrongUse::rightIdentifiers()
 {
     QFETCH(int, index);
-    const EntryPoint entryPoint = entryPoints().at(index);
-    if (QByteArray(entryPoint.name) == "ZelGUIDialogLaunch")
+    const EntryPoint &entryPoint = entryPoints()[index];
+    if (entryPoint.identifiers().isEmpty() || entryPoint.parameters[entryPoint.identifiers().last()].accepts.isEmpty())
         return;
-    for (const int id : m_objects) {
-        if (isAccepted(entryPoint, object<QObject>(id)))
-            entryPoint.call(id);
+    const QVector<SceneObject> standing = m_objects;
+    const int otherDialog = makeEveryKind(ZELGUI_MAIN_WINDOW).first().id;
+    snapshot(object<QObject>(otherDialog));
+    const QStringList before = snapshot(object<QObject>(otherDialog));
+
+    m_objects = makeEveryKind(ZELGUI_MAIN_WINDOW);
+    const QPointer<QObject> dialog = object<QObject>(m_objects.first().id);
+    const auto pointers = entryPoint.positionsOf(isPointer);
+    for (const SceneObject &each : m_objects) {
+        if (!isAccepted(entryPoint.parameters[entryPoint.identifiers().last()].accepts, each))
+            continue;
+        for (int nulls = -1; nulls <= pointers.size(); ++nulls) {
+            Call call(entryPoint);
+            for (const int identifier : entryPoint.identifiers())
+                call.setNumber(identifier, rightIds(entryPoint.parameters[identifier]).value(0, each.id));
+            call.setNumber(entryPoint.identifiers().last(), each.id);
+            for (int i = 0; i < pointers.size(); ++i) {
+                if (nulls == i || nulls == pointers.size())
+                    call.setNull(pointers[i]);
+            }
+            // If this is a launch, end it.
+            QTimer::singleShot(0, this, [id = each.id] { ZelGUIDialogDrop(id); });
+            // What can be made or counted, is.
+            QVERIFY2(call.run() != entryPoint.neutral || entryPoint.neutral != QLatin1String("-2"), each.kind);
+        }
+        show();
     }
+    QVERIFY(dialog);
+    QCOMPARE(snapshot(object<QObject>(otherDialog)), before);
+    delete dialog;
+    delete object<QObject>(otherDialog);
+    m_objects = standing;
+}
+
+void tst_WrongUse::nullIsEmpty_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("pointer");
+    const auto canBeEmpty = [](Kind kind) {
+        return isPointer(kind) && kind != Kind::Pixels && !isOutput(kind) && !isCallback(kind);
+    };
+    // Where null says that something isn't there at all.
+    static const QRegularExpression absence(QStringLiteral("RadioBoxAdd label[345]|FrameAdd title"));
+    for (int i = 0; i < entryPoints().size(); ++i) {
+        const EntryPoint &entryPoint = entryPoints()[i];
+        if (entryPoint.identifiers().isEmpty() || entryPoint.parameters[0].accepts.isEmpty())
+            continue;
+        for (const int pointer : entryPoint.positionsOf(canBeEmpty)) {
+            const QString name = QLatin1String(entryPoint.name) + ' ' + entryPoint.parameters[pointer].name;
+            if (!name.contains(absence))
+                QTest::newRow(qPrintable(name)) << i << pointer;
+        }
+    }
+}
+
+// Null and empty data have the same outcome.
+void tst_WrongUse::nullIsEmpty()
+{
+    QFETCH(int, index);
+    QFETCH(int, pointer);
+    const EntryPoint &entryPoint = entryPoints()[index];
+    const QVector<SceneObject> standing = m_objects;
+    QStringList answers;
+    QVector<QStringList> outcomes;
+    for (const bool isNull : {false, true}) {
+        m_objects = makeEveryKind(ZELGUI_MAIN_WINDOW);
+        QObject *const dialog = object<QObject>(m_objects.first().id);
+        snapshot(dialog);
+        for (const int id : rightIds(entryPoint.parameters[0])) {
+            Call call(entryPoint);
+            call.setNumber(0, id);
+            if (isNull)
+                call.setNull(pointer);
+            else
+                call.setEmpty(pointer);
+            const QString answer = call.run();
+            // Identifiers differ, whatever was made.
+            answers << (entryPoint.neutral == QLatin1String("-2") ? QString() : answer);
+        }
+        outcomes << snapshot(dialog, false);
+        delete dialog;
+    }
+    m_objects = standing;
+    QCOMPARE(answers.mid(answers.size() / 2), answers.mid(0, answers.size() / 2));
+    QCOMPARE(outcomes[1], outcomes[0]);
 }
 
 ZELTEST_MAIN(tst_WrongUse)

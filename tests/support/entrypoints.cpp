@@ -4,293 +4,280 @@
 #include <zelgui/zelgui.h>
 
 #include <QFile>
+#include <QMap>
 #include <QRegularExpression>
+
+#include <type_traits>
+#include <utility>
 
 namespace {
 
-/// Wraps a call without an answer.
-template <typename Call>
-auto silent(Call call)
+/// The parameters' names of every function.
+const QMap<QString, QStringList> &declarations()
 {
-    return [call](int id) {
-        call(id);
-        return QString();
+    static const auto declared = [] {
+        QMap<QString, QStringList> names;
+        QFile header(QStringLiteral(ZELGUI_HEADER));
+        if (!header.open(QIODevice::ReadOnly))
+            return names;
+        static const QRegularExpression declaration(QStringLiteral(R"(^ZELGUI_API [^(;]*?(ZelGUI\w+)\(([^)]*)\);)"),
+                                                    QRegularExpression::MultilineOption);
+        static const QRegularExpression name(QStringLiteral(R"((\w+)\s*(?:,|$))"));
+        auto matches = declaration.globalMatch(QString::fromUtf8(header.readAll()));
+        while (matches.hasNext()) {
+            const auto match = matches.next();
+            QStringList &parameters = names[match.captured(1)];
+            for (auto all = name.globalMatch(match.captured(2)); all.hasNext();)
+                parameters << all.next().captured(1);
+        }
+        return names;
+    }();
+    return declared;
+}
+
+/// Types in the order of the kinds, identifiers aside.
+template <typename... Types>
+struct TypeList
+{
+    template <typename T>
+    static constexpr int find()
+    {
+        int found = -1;
+        int index = 0;
+        ((found = std::is_same_v<T, Types> ? index : found, ++index), ...);
+        return found;
+    }
+};
+using Kinds = TypeList<int, unsigned char, LgIndex, double, const char *, const unsigned char *, const int *, IndexSet,
+                       StringList_s *, int *, int **, unsigned char *, LgIndex *, double *, IndexSet *,
+                       ZelGUIVoidCallback, ZelGUIIntCallback, ZelGUITextCallback>;
+
+template <typename T>
+Kind kindOf(const QString &name)
+{
+    static_assert(Kinds::find<T>() >= 0);
+    const bool isId = std::is_same_v<T, int> && (name == QLatin1String("id") || name.endsWith(QLatin1String("Id")));
+    return isId ? Kind::Id : static_cast<Kind>(static_cast<int>(Kind::Int) + Kinds::find<T>());
+}
+
+template <typename T>
+T as(const Argument &argument)
+{
+    if constexpr (std::is_integral_v<T>)
+        return static_cast<T>(std::get<qint64>(argument));
+    else if constexpr (std::is_floating_point_v<T>)
+        return std::get<double>(argument);
+    else if constexpr (std::is_function_v<std::remove_pointer_t<T>>)
+        return reinterpret_cast<T>(std::get<void (*)()>(argument));
+    else
+        return static_cast<T>(std::get<void *>(argument));
+}
+
+QString written(int answer)
+{
+    return QString::number(answer);
+}
+QString written(char *answer)
+{
+    const QString text = answer ? QString::fromUtf8(answer) : QStringLiteral("null");
+    ZelUtilStringDealloc(&answer);
+    return text;
+}
+
+template <typename Result, typename... Types, std::size_t... i>
+QString callWith(Result (*function)(Types...), const QVector<Argument> &arguments, std::index_sequence<i...>)
+{
+    if constexpr (std::is_void_v<Result>) {
+        function(as<Types>(arguments[static_cast<int>(i)])...);
+        return {};
+    } else {
+        return written(function(as<Types>(arguments[static_cast<int>(i)])...));
+    }
+}
+
+template <typename Result>
+const char *usualNeutral()
+{
+    if (std::is_void_v<Result>)
+        return "";
+    if (std::is_same_v<Result, ZelBoolean>)
+        return "0";
+    return std::is_pointer_v<Result> ? "null" : "-2";
+}
+
+/// `accepts` has a comma-separated list of classes for each identifier.
+template <typename Result, typename... Types>
+EntryPoint describe(const char *name, Result (*function)(Types...), const QVector<const char *> &accepts,
+                    const char *neutral = usualNeutral<Result>(), const char *withoutGui = nullptr)
+{
+    const QStringList names = declarations().value(QString::fromLatin1(name));
+    QVector<Parameter> parameters;
+    int identifiers = 0;
+    [[maybe_unused]] const auto add = [&](Kind (*kindOfName)(const QString &)) {
+        const QString parameter = names.value(parameters.size());
+        const Kind kind = kindOfName(parameter);
+        const char *const classes = kind == Kind::Id ? accepts.value(identifiers++, "") : "";
+        parameters.append({kind, parameter, QString::fromLatin1(classes).split(QLatin1Char(','), Qt::SkipEmptyParts)});
     };
-}
-
-/// Wraps a call that answers a number.
-template <typename Call>
-auto number(Call call)
-{
-    return [call](int id) { return QString::number(call(id)); };
-}
-
-const QString kNone = QStringLiteral("-2");
-const QString kFalse = QStringLiteral("0");
-const QString kMinusOne = QStringLiteral("-1");
-const QString kNull = QStringLiteral("null");
-
-/// Wraps a call that answers a text, which has to be released.
-template <typename Call>
-auto text(Call call)
-{
-    return [call](int id) {
-        char *answer = call(id);
-        const QString result = answer ? QString::fromUtf8(answer) : QStringLiteral("null");
-        ZelUtilStringDealloc(&answer);
-        return result;
+    (add(kindOf<Types>), ...);
+    const auto call = [function](const QVector<Argument> &arguments) {
+        return callWith(function, arguments, std::index_sequence_for<Types...>());
     };
+    return {name, parameters, call, QString::fromLatin1(neutral),
+            QString::fromLatin1(withoutGui ? withoutGui : neutral)};
 }
 
-/// Wraps a call that answers whether it has written something through its second argument, here 77 before.
-template <typename Value, typename Call>
-auto reader(Call call)
-{
-    return [call](int id) {
-        Value value = 77;
-        const ZelBoolean isRead = call(id, &value);
-        return QStringLiteral("%1 %2").arg(isRead).arg(value);
-    };
-}
+#define ENTRY(function, ...) describe(#function, function, __VA_ARGS__)
 
-QString readSet(int id)
-{
-    IndexSet set = ZelUtilSetAlloc(0);
-    const IndexSet before = set;
-    const ZelBoolean isRead = ZelGUITextFieldGetSet(id, &set);
-    const bool isUntouched = set == before;
-    IndexSet unused = before;
-    ZelUtilSetDealloc(&unused);
-    if (!isUntouched)
-        ZelUtilSetDealloc(&set);
-    return QStringLiteral("%1 %2").arg(isRead).arg(isUntouched ? "untouched" : "new");
-}
-
-QString readSelection(int id)
-{
-    int untouched = 0;
-    int *selected = &untouched;
-    int count = 77;
-    ZelGUIListGetSelectedItems(id, &selected, &count);
-    const bool isUntouched = selected == &untouched;
-    char *memory = reinterpret_cast<char *>(isUntouched ? nullptr : selected);
-    ZelUtilStringDealloc(&memory);
-    return QStringLiteral("%1 %2").arg(count).arg(isUntouched ? "untouched" : "new");
-}
+constexpr const char *kObject = "QObject";
+constexpr const char *kWidget = "QWidget";
+constexpr const char *kDialog = "orvane::zelgui::ZelGUIDialog";
+constexpr const char *kButton = "QAbstractButton";
+constexpr const char *kLabel = "QLabel";
+constexpr const char *kField = "QLineEdit,QAbstractSpinBox";
+constexpr const char *kText = "QPlainTextEdit";
+constexpr const char *kList = "QListWidget";
+constexpr const char *kOptionMenu = "QComboBox";
+constexpr const char *kSlider = "QAbstractSlider";
+constexpr const char *kMenu = "QMenu";
+constexpr const char *kItem = "QAction";
 
 } // namespace
 
-QVector<EntryPoint> entryPoints()
+const QVector<EntryPoint> &entryPoints()
 {
-    return {
-        {"ZelGUIBitmapButtonAdd", "QWidget",
-         number([](int id) { return ZelGUIBitmapButtonAdd(id, 1, 1, 1, 1, 8, 8, nullptr, 1, 0, 0, 0, nullptr); }),
-         kNone},
-        {"ZelGUIBitmapToggleAdd", "QWidget",
-         number([](int id) { return ZelGUIBitmapToggleAdd(id, 1, 1, 1, 1, -8, 8, nullptr, 1, 0, 0, 0, nullptr); }),
-         kNone},
-        {"ZelGUIListAdd", "QWidget", number([](int id) { return ZelGUIListAdd(id, 1, 1, 1, 1, 1, nullptr); }), kNone},
-        {"ZelGUIListAppendItem", "QListWidget", silent([](int id) { ZelGUIListAppendItem(id, nullptr); }), {}},
-        {"ZelGUIListDeleteAllItems", "QListWidget", silent([](int id) { ZelGUIListDeleteAllItems(id); }), {}},
-        {"ZelGUIListDeleteItemAtPos", "QListWidget", silent([](int id) { ZelGUIListDeleteItemAtPos(id, 1); }), {}},
-        {"ZelGUIListDeselectAllItems", "QListWidget", silent([](int id) { ZelGUIListDeselectAllItems(id); }), {}},
-        {"ZelGUIListGetCapacity", "QListWidget", number([](int id) { return ZelGUIListGetCapacity(id); }), kMinusOne},
-        {"ZelGUIListGetItemCount", "QListWidget", number([](int id) { return ZelGUIListGetItemCount(id); }), kNone},
-        {"ZelGUIListGetSelectedItem", "QListWidget", number([](int id) { return ZelGUIListGetSelectedItem(id); }),
-         kMinusOne},
-        {"ZelGUIListGetSelectedItems", "QListWidget", readSelection, QStringLiteral("77 untouched")},
-        {"ZelGUIListGetString", "QListWidget", text([](int id) { return ZelGUIListGetString(id, 1); }), kNull},
-        {"ZelGUIListGetTopItemNum", "QListWidget", number([](int id) { return ZelGUIListGetTopItemNum(id); }),
-         kMinusOne},
-        {"ZelGUIListReplaceItem", "QListWidget", silent([](int id) { ZelGUIListReplaceItem(id, nullptr, 1); }), {}},
-        {"ZelGUIListSelectAllItems", "QListWidget", silent([](int id) { ZelGUIListSelectAllItems(id); }), {}},
-        {"ZelGUIListSetItems", "QListWidget", silent([](int id) { ZelGUIListSetItems(id, nullptr); }), {}},
-        {"ZelGUIListSetSelectedItem", "QListWidget", silent([](int id) { ZelGUIListSetSelectedItem(id, 1); }), {}},
-        {"ZelGUIListSetSelectedItems",
-         "QListWidget",
-         silent([](int id) { ZelGUIListSetSelectedItems(id, nullptr, 9); }),
-         {}},
-        {"ZelGUIListSetTopItemNum", "QListWidget", silent([](int id) { ZelGUIListSetTopItemNum(id, 1); }), {}},
-        {"ZelGUIOptionMenuAdd", "QWidget",
-         number([](int id) { return ZelGUIOptionMenuAdd(id, 1, 1, 1, 1, nullptr, nullptr); }), kNone},
-        {"ZelGUIOptionMenuAppendItem",
-         "QComboBox",
-         silent([](int id) { ZelGUIOptionMenuAppendItem(id, nullptr); }),
-         {}},
-        {"ZelGUIOptionMenuDeleteAllItems", "QComboBox", silent([](int id) { ZelGUIOptionMenuDeleteAllItems(id); }), {}},
-        {"ZelGUIOptionMenuDeleteItemAtPos",
-         "QComboBox",
-         silent([](int id) { ZelGUIOptionMenuDeleteItemAtPos(id, 1); }),
-         {}},
-        {"ZelGUIOptionMenuGet", "QComboBox", number([](int id) { return ZelGUIOptionMenuGet(id); }), kMinusOne},
-        {"ZelGUIOptionMenuGetItemCount", "QComboBox", number([](int id) { return ZelGUIOptionMenuGetItemCount(id); }),
-         kMinusOne},
-        {"ZelGUIOptionMenuGetString", "QComboBox", text([](int id) { return ZelGUIOptionMenuGetString(id, 1); }),
-         kNull},
-        {"ZelGUIOptionMenuSet", "QComboBox", silent([](int id) { ZelGUIOptionMenuSet(id, 0); }), {}},
-        {"ZelGUIOptionMenuSetByString", "QComboBox",
-         number([](int id) { return ZelGUIOptionMenuSetByString(id, nullptr); }), kMinusOne},
-        {"ZelGUIRadioBoxAdd", "QWidget", number([](int id) {
-             return ZelGUIRadioBoxAdd(id, 1, 1, 1, 1, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
-         }),
-         kNone},
-        {"ZelGUIRadioBoxGetToggle", "QButtonGroup", number([](int id) { return ZelGUIRadioBoxGetToggle(id); }),
-         kMinusOne},
-        {"ZelGUIRadioBoxSetToggle", "QButtonGroup", silent([](int id) { ZelGUIRadioBoxSetToggle(id, 2); }), {}},
-        {"ZelGUISpinTextFieldAdd", "QWidget",
-         number([](int id) { return ZelGUISpinTextFieldAdd(id, 1, 1, 1, 1, nullptr, nullptr, nullptr); }), kNone},
-        {"ZelGUISpinTextFieldIncDouble", "QAbstractSpinBox",
-         number([](int id) { return ZelGUISpinTextFieldIncDouble(id, nullptr, 1, 0, 9); }), kFalse},
-        {"ZelGUISpinTextFieldIncLgIndex", "QAbstractSpinBox",
-         number([](int id) { return ZelGUISpinTextFieldIncLgIndex(id, 1, 0, 9); }), kFalse},
-        {"ZelGUITextAdd", "QWidget", number([](int id) { return ZelGUITextAdd(id, 1, 1, 1, 1, 0, nullptr); }), kNone},
-        {"ZelGUITextAllowWordWrap", "QPlainTextEdit", silent([](int id) { ZelGUITextAllowWordWrap(id, 0); }), {}},
-        {"ZelGUITextAppendString", "QPlainTextEdit", silent([](int id) { ZelGUITextAppendString(id, nullptr); }), {}},
-        {"ZelGUITextGetString", "QPlainTextEdit", text([](int id) { return ZelGUITextGetString(id); }), kNull},
-        {"ZelGUITextSetString", "QPlainTextEdit", silent([](int id) { ZelGUITextSetString(id, nullptr); }), {}},
-        {"ZelGUITextUseFixedPitchFont",
-         "QPlainTextEdit",
-         silent([](int id) { ZelGUITextUseFixedPitchFont(id, 1); }),
-         {}},
-        // 0, not -2, without a GUI.
-        {"ZelGUITextFieldAdd", "QWidget", number([](int id) { return ZelGUITextFieldAdd(id, 1, 1, 1, 1, nullptr); }),
-         kNone, kFalse},
-        {"ZelGUITextFieldGetDouble", "QLineEdit,QAbstractSpinBox", reader<double>(ZelGUITextFieldGetDouble),
-         QStringLiteral("0 77")},
-        {"ZelGUITextFieldGetLgIndex", "QLineEdit,QAbstractSpinBox", reader<LgIndex>(ZelGUITextFieldGetLgIndex),
-         QStringLiteral("0 77")},
-        {"ZelGUITextFieldGetSet", "QLineEdit", readSet, QStringLiteral("0 untouched")},
-        {"ZelGUITextFieldGetString", "QLineEdit,QAbstractSpinBox",
-         text([](int id) { return ZelGUITextFieldGetString(id); }), kNull},
-        {"ZelGUITextFieldSetDouble",
-         "QLineEdit,QAbstractSpinBox",
-         silent([](int id) { ZelGUITextFieldSetDouble(id, 1, "%g"); }),
-         {}},
-        {"ZelGUITextFieldSetLgIndex",
-         "QLineEdit,QAbstractSpinBox",
-         silent([](int id) { ZelGUITextFieldSetLgIndex(id, 1, 0); }),
-         {}},
-        {"ZelGUITextFieldSetSet", "QLineEdit", silent([](int id) { ZelGUITextFieldSetSet(id, nullptr, 1); }), {}},
-        {"ZelGUITextFieldSetString",
-         "QLineEdit,QAbstractSpinBox",
-         silent([](int id) { ZelGUITextFieldSetString(id, nullptr); }),
-         {}},
-        {"ZelGUITextFieldValidateDouble", "QLineEdit,QAbstractSpinBox",
-         number([](int id) { return ZelGUITextFieldValidateDouble(id, "Name", 0, 9); }), kFalse},
-        {"ZelGUITextFieldValidateLgIndex", "QLineEdit,QAbstractSpinBox",
-         number([](int id) { return ZelGUITextFieldValidateLgIndex(id, "Name", 0, 9, 1); }), kFalse},
-        {"ZelGUIBlockForModalDialog", "", silent([](int) { ZelGUIBlockForModalDialog(nullptr); }), {}},
-        {"ZelGUIButtonAdd", "QWidget", number([](int id) { return ZelGUIButtonAdd(id, 1, 1, 1, 1, nullptr, nullptr); }),
-         kNone},
-        {"ZelGUIButtonSetDefault", "QPushButton", silent([](int id) { ZelGUIButtonSetDefault(id, id); }), {}},
-        {"ZelGUIButtonSetText", "QAbstractButton", silent([](int id) { ZelGUIButtonSetText(id, nullptr); }), {}},
-        {"ZelGUIColoredButtonAdd", "",
-         number([](int id) { return ZelGUIColoredButtonAdd(id, 1, 1, 1, 1, 1, nullptr); }), kNone},
-        {"ZelGUIColoredButtonSetColor",
-         "QAbstractButton",
-         silent([](int id) { ZelGUIColoredButtonSetColor(id, 1 << 30); }),
-         {}},
-        {"ZelGUIDialogAddButtonToButtonBox",
-         "orvane::zelgui::ZelGUIDialog",
-         silent([](int id) { ZelGUIDialogAddButtonToButtonBox(id, nullptr, 1, nullptr); }),
-         {}},
-        {"ZelGUIDialogApplySetSensitivity", "", silent([](int id) { ZelGUIDialogApplySetSensitivity(id, 1); }), {}},
-        {"ZelGUIDialogCreateModal", "QWidget", number([](int id) {
-             return ZelGUIDialogCreateModal(id, 1, 1, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
-         }),
-         kNone},
-        {"ZelGUIDialogCreateModeless", "QWidget",
-         number([](int id) { return ZelGUIDialogCreateModeless(id, 1, 1, nullptr, nullptr, nullptr, nullptr); }),
-         kNone},
-        {"ZelGUIDialogDrop", "orvane::zelgui::ZelGUIDialog", silent([](int id) { ZelGUIDialogDrop(id); }), {}},
-        {"ZelGUIDialogEnableActionArea", "", silent([](int id) { ZelGUIDialogEnableActionArea(id, 0); }), {}},
-        {"ZelGUIDialogIsUp", "orvane::zelgui::ZelGUIDialog", number([](int id) { return ZelGUIDialogIsUp(id); }),
-         kFalse},
-        {"ZelGUIDialogLaunch", "orvane::zelgui::ZelGUIDialog", silent([](int id) { ZelGUIDialogLaunch(id); }), {}},
-        {"ZelGUIDialogSetLaunchPosition", "", silent([](int id) { ZelGUIDialogSetLaunchPosition(id, 1, 1); }), {}},
-        {"ZelGUIDialogSetLaunchPositionX", "", silent([](int id) { ZelGUIDialogSetLaunchPositionX(id, 1, 1, 1); }), {}},
-        {"ZelGUIDialogSetPosition", "", silent([](int id) { ZelGUIDialogSetPosition(id, 1, 1); }), {}},
-        {"ZelGUIDialogSetPositionX", "", silent([](int id) { ZelGUIDialogSetPositionX(id, 1, 1, 1); }), {}},
-        {"ZelGUIDialogSetTitle",
-         "orvane::zelgui::ZelGUIDialog",
-         silent([](int id) { ZelGUIDialogSetTitle(id, nullptr); }),
-         {}},
-        {"ZelGUIDialogSetTopmost", "", silent([](int id) { ZelGUIDialogSetTopmost(id, 1); }), {}},
-        {"ZelGUIFormAdd", "QWidget", number([](int id) { return ZelGUIFormAdd(id, 1, 1, 1, 1); }), kNone},
-        {"ZelGUIFormAddPage", "QStackedWidget", number([](int id) { return ZelGUIFormAddPage(id); }), kNone},
-        {"ZelGUIFormSetCurrentPage", "QWidget", silent([](int id) { ZelGUIFormSetCurrentPage(id); }), {}},
-        {"ZelGUIFrameAdd", "QWidget", number([](int id) { return ZelGUIFrameAdd(id, 1, 1, 1, 1, nullptr); }), kNone},
-        {"ZelGUIHorzSeparatorAdd", "QWidget", number([](int id) { return ZelGUIHorzSeparatorAdd(id, 1, 1, 1); }),
-         kNone},
-        {"ZelGUIVertSeparatorAdd", "QWidget", number([](int id) { return ZelGUIVertSeparatorAdd(id, 1, 1, 1); }),
-         kNone},
-        {"ZelGUIScaleAdd", "QWidget",
-         number([](int id) { return ZelGUIScaleAdd(id, 1, 1, 1, 1, 9, -9, 0, nullptr, nullptr); }), kNone},
-        {"ZelGUIScaleGetValue", "QAbstractSlider", number([](int id) { return ZelGUIScaleGetValue(id); }), kMinusOne},
-        {"ZelGUIScaleSetLimits", "QAbstractSlider", silent([](int id) { ZelGUIScaleSetLimits(id, 3, 4); }), {}},
-        {"ZelGUIScaleSetValue", "QAbstractSlider", silent([](int id) { ZelGUIScaleSetValue(id, 3); }), {}},
-        {"ZelGUIScaleShowNumericDisplay",
-         "QAbstractSlider",
-         silent([](int id) { ZelGUIScaleShowNumericDisplay(id, 0); }),
-         {}},
-        // These four take every kind of object.
-        {"ZelGUISetInputFocus", "QObject", silent([](int id) { ZelGUISetInputFocus(id); }), {}},
-        {"ZelGUISetSensitivity", "QObject", silent([](int id) { ZelGUISetSensitivity(id, 0); }), {}},
-        {"ZelGUISetToolTip", "QObject", silent([](int id) { ZelGUISetToolTip(id, nullptr); }), {}},
-        {"ZelGUISetVisibility", "QObject", silent([](int id) { ZelGUISetVisibility(id, 0); }), {}},
-        {"ZelGUITabAdd", "QWidget", number([](int id) { return ZelGUITabAdd(id, 1, 1, 1, 1, nullptr, nullptr); }),
-         kNone},
-        {"ZelGUITabAddPage", "QTabWidget", number([](int id) { return ZelGUITabAddPage(id, nullptr); }), kNone},
-        {"ZelGUITabSetCurrentPage", "QTabWidget", silent([](int id) { ZelGUITabSetCurrentPage(id, id); }), {}},
-        {"ZelGUILabelAdd", "QWidget", number([](int id) { return ZelGUILabelAdd(id, 1, 1, nullptr); }), kNone},
-        {"ZelGUILabelSetDouble", "QLabel", silent([](int id) { ZelGUILabelSetDouble(id, 1, "%g"); }), {}},
-        {"ZelGUILabelSetLgIndex", "QLabel", silent([](int id) { ZelGUILabelSetLgIndex(id, 1); }), {}},
-        {"ZelGUILabelSetSet", "", silent([](int id) { ZelGUILabelSetSet(id, nullptr, 1); }), {}},
-        {"ZelGUILabelSetText", "QLabel", silent([](int id) { ZelGUILabelSetText(id, nullptr); }), {}},
-        {"ZelGUIMenuAdd", "QMenuBar,QMenu", number([](int id) { return ZelGUIMenuAdd(id, nullptr); }), kNone},
-        {"ZelGUIMenuAddItem", "QMenu", number([](int id) { return ZelGUIMenuAddItem(id, nullptr, nullptr, nullptr); }),
-         kNone},
-        {"ZelGUIMenuAddSeparator", "QMenu", silent([](int id) { ZelGUIMenuAddSeparator(id); }), {}},
-        {"ZelGUIMenuAddToggle", "QMenu",
-         number([](int id) { return ZelGUIMenuAddToggle(id, nullptr, nullptr, nullptr); }), kNone},
-        {"ZelGUIMenuBarAdd", "orvane::zelgui::ZelGUIDialog", number([](int id) { return ZelGUIMenuBarAdd(id); }),
-         kNone},
-        {"ZelGUIMenuDeleteItem", "QAction", silent([](int id) { ZelGUIMenuDeleteItem(id); }), {}},
-        {"ZelGUIMenuItemSetText", "QAction", silent([](int id) { ZelGUIMenuItemSetText(id, nullptr); }), {}},
-        {"ZelGUIMenuSetToggle",
-         "orvane::zelgui::ZelGUIMenuToggleAction",
-         silent([](int id) { ZelGUIMenuSetToggle(id, 1); }),
-         {}},
-        {"ZelGUIOptionMenuReplaceItem", "", silent([](int id) { ZelGUIOptionMenuReplaceItem(id, nullptr, 1); }), {}},
-        {"ZelGUISetStatusLine", "", silent([](int) { ZelGUISetStatusLine(nullptr); }), {}},
-        {"ZelGUISidebarActivate", "", silent([](int id) { ZelGUISidebarActivate(id); }), {}},
-        {"ZelGUISidebarDeactivateAll", "", silent([](int) { ZelGUISidebarDeactivateAll(); }), {}},
-        {"ZelGUISidebarIsActive", "", number([](int id) { return ZelGUISidebarIsActive(id); }), kFalse},
-        {"ZelGUISidebarRegister", "", number([](int) { return ZelGUISidebarRegister(nullptr, nullptr, nullptr); }),
-         kNone},
-        {"ZelGUITextAddKeyEventCallback", "", silent([](int id) { ZelGUITextAddKeyEventCallback(id, nullptr); }), {}},
-        {"ZelGUITextInsertString", "", silent([](int id) { ZelGUITextInsertString(id, nullptr); }), {}},
-        {"ZelGUITextSetInsertPos", "", silent([](int id) { ZelGUITextSetInsertPos(id, 1); }), {}},
-        {"ZelGUITextSetMaxInsertPos", "", silent([](int id) { ZelGUITextSetMaxInsertPos(id, 1); }), {}},
-        {"ZelGUITextSetMinInsertPos", "", silent([](int id) { ZelGUITextSetMinInsertPos(id, 1); }), {}},
-        {"ZelGUIToggleAdd", "QWidget", number([](int id) { return ZelGUIToggleAdd(id, 1, 1, 1, 1, nullptr, nullptr); }),
-         kNone},
-        {"ZelGUIToggleGet", "QAbstractButton", number([](int id) { return ZelGUIToggleGet(id); }), kFalse},
-        {"ZelGUIToggleSet", "QAbstractButton", silent([](int id) { ZelGUIToggleSet(id, 1); }), {}},
+    static const QVector<EntryPoint> all = {
+        ENTRY(ZelGUIBitmapButtonAdd, {kWidget}),
+        ENTRY(ZelGUIBitmapToggleAdd, {kWidget}),
+        ENTRY(ZelGUIListAdd, {kWidget}),
+        ENTRY(ZelGUIListAppendItem, {kList}),
+        ENTRY(ZelGUIListDeleteAllItems, {kList}),
+        ENTRY(ZelGUIListDeleteItemAtPos, {kList}),
+        ENTRY(ZelGUIListDeselectAllItems, {kList}),
+        ENTRY(ZelGUIListGetCapacity, {kList}, "-1"),
+        ENTRY(ZelGUIListGetItemCount, {kList}),
+        ENTRY(ZelGUIListGetSelectedItem, {kList}, "-1"),
+        ENTRY(ZelGUIListGetSelectedItems, {kList}),
+        ENTRY(ZelGUIListGetString, {kList}),
+        ENTRY(ZelGUIListGetTopItemNum, {kList}, "-1"),
+        ENTRY(ZelGUIListReplaceItem, {kList}),
+        ENTRY(ZelGUIListSelectAllItems, {kList}),
+        ENTRY(ZelGUIListSetItems, {kList}),
+        ENTRY(ZelGUIListSetSelectedItem, {kList}),
+        ENTRY(ZelGUIListSetSelectedItems, {kList}),
+        ENTRY(ZelGUIListSetTopItemNum, {kList}),
+        ENTRY(ZelGUIOptionMenuAdd, {kWidget}),
+        ENTRY(ZelGUIOptionMenuAppendItem, {kOptionMenu}),
+        ENTRY(ZelGUIOptionMenuDeleteAllItems, {kOptionMenu}),
+        ENTRY(ZelGUIOptionMenuDeleteItemAtPos, {kOptionMenu}),
+        ENTRY(ZelGUIOptionMenuGet, {kOptionMenu}, "-1"),
+        ENTRY(ZelGUIOptionMenuGetItemCount, {kOptionMenu}, "-1"),
+        ENTRY(ZelGUIOptionMenuGetString, {kOptionMenu}),
+        ENTRY(ZelGUIOptionMenuSet, {kOptionMenu}),
+        ENTRY(ZelGUIOptionMenuSetByString, {kOptionMenu}, "-1"),
+        ENTRY(ZelGUIRadioBoxAdd, {kWidget}),
+        ENTRY(ZelGUIRadioBoxGetToggle, {"QButtonGroup"}, "-1"),
+        ENTRY(ZelGUIRadioBoxSetToggle, {"QButtonGroup"}),
+        ENTRY(ZelGUISpinTextFieldAdd, {kWidget}),
+        ENTRY(ZelGUISpinTextFieldIncDouble, {"QAbstractSpinBox"}),
+        ENTRY(ZelGUISpinTextFieldIncLgIndex, {"QAbstractSpinBox"}),
+        ENTRY(ZelGUITextAdd, {kWidget}),
+        ENTRY(ZelGUITextAllowWordWrap, {kText}),
+        ENTRY(ZelGUITextAppendString, {kText}),
+        ENTRY(ZelGUITextGetString, {kText}),
+        ENTRY(ZelGUITextSetString, {kText}),
+        ENTRY(ZelGUITextUseFixedPitchFont, {kText}),
+        ENTRY(ZelGUITextFieldAdd, {kWidget}, "-2", "0"),
+        ENTRY(ZelGUITextFieldGetDouble, {kField}),
+        ENTRY(ZelGUITextFieldGetLgIndex, {kField}),
+        ENTRY(ZelGUITextFieldGetSet, {"QLineEdit"}),
+        ENTRY(ZelGUITextFieldGetString, {kField}),
+        ENTRY(ZelGUITextFieldSetDouble, {kField}),
+        ENTRY(ZelGUITextFieldSetLgIndex, {kField}),
+        ENTRY(ZelGUITextFieldSetSet, {"QLineEdit"}),
+        ENTRY(ZelGUITextFieldSetString, {kField}),
+        ENTRY(ZelGUITextFieldValidateDouble, {kField}),
+        ENTRY(ZelGUITextFieldValidateLgIndex, {kField}),
+        ENTRY(ZelGUIBlockForModalDialog, {}),
+        ENTRY(ZelGUIButtonAdd, {kWidget}),
+        ENTRY(ZelGUIButtonSetDefault, {"", "QPushButton"}),
+        ENTRY(ZelGUIButtonSetText, {kButton}),
+        ENTRY(ZelGUIColoredButtonAdd, {""}),
+        ENTRY(ZelGUIColoredButtonSetColor, {kButton}),
+        ENTRY(ZelGUIDialogAddButtonToButtonBox, {kDialog}),
+        ENTRY(ZelGUIDialogApplySetSensitivity, {""}),
+        ENTRY(ZelGUIDialogCreateModal, {kWidget}),
+        ENTRY(ZelGUIDialogCreateModeless, {kWidget}),
+        ENTRY(ZelGUIDialogDrop, {kDialog}),
+        ENTRY(ZelGUIDialogEnableActionArea, {""}),
+        ENTRY(ZelGUIDialogIsUp, {kDialog}),
+        ENTRY(ZelGUIDialogLaunch, {kDialog}),
+        ENTRY(ZelGUIDialogSetLaunchPosition, {""}),
+        ENTRY(ZelGUIDialogSetLaunchPositionX, {""}),
+        ENTRY(ZelGUIDialogSetPosition, {""}),
+        ENTRY(ZelGUIDialogSetPositionX, {""}),
+        ENTRY(ZelGUIDialogSetTitle, {kDialog}),
+        ENTRY(ZelGUIDialogSetTopmost, {""}),
+        ENTRY(ZelGUIFormAdd, {kWidget}),
+        ENTRY(ZelGUIFormAddPage, {"QStackedWidget"}),
+        ENTRY(ZelGUIFormSetCurrentPage, {"form page"}),
+        ENTRY(ZelGUIFrameAdd, {kWidget}),
+        ENTRY(ZelGUIHorzSeparatorAdd, {kWidget}),
+        ENTRY(ZelGUIVertSeparatorAdd, {kWidget}),
+        ENTRY(ZelGUIScaleAdd, {kWidget}),
+        ENTRY(ZelGUIScaleGetValue, {kSlider}, "-1"),
+        ENTRY(ZelGUIScaleSetLimits, {kSlider}),
+        ENTRY(ZelGUIScaleSetValue, {kSlider}),
+        ENTRY(ZelGUIScaleShowNumericDisplay, {"orvane::zelgui::ZelGUIScale"}),
+        ENTRY(ZelGUISetInputFocus, {kObject}),
+        ENTRY(ZelGUISetSensitivity, {kObject}),
+        ENTRY(ZelGUISetToolTip, {kObject}),
+        ENTRY(ZelGUISetVisibility, {kObject}),
+        ENTRY(ZelGUITabAdd, {kWidget}),
+        ENTRY(ZelGUITabAddPage, {"QTabWidget"}),
+        ENTRY(ZelGUITabSetCurrentPage, {"QTabWidget", "tab page"}),
+        ENTRY(ZelGUILabelAdd, {kWidget}),
+        ENTRY(ZelGUILabelSetDouble, {kLabel}),
+        ENTRY(ZelGUILabelSetLgIndex, {kLabel}),
+        ENTRY(ZelGUILabelSetSet, {""}),
+        ENTRY(ZelGUILabelSetText, {kLabel}),
+        ENTRY(ZelGUIMenuAdd, {"QMenuBar,QMenu"}),
+        ENTRY(ZelGUIMenuAddItem, {kMenu}),
+        ENTRY(ZelGUIMenuAddSeparator, {kMenu}),
+        ENTRY(ZelGUIMenuAddToggle, {kMenu}),
+        ENTRY(ZelGUIMenuBarAdd, {kDialog}),
+        ENTRY(ZelGUIMenuDeleteItem, {kItem}),
+        ENTRY(ZelGUIMenuItemSetText, {kItem}),
+        ENTRY(ZelGUIMenuSetToggle, {"orvane::zelgui::ZelGUIMenuToggleAction"}),
+        ENTRY(ZelGUIOptionMenuReplaceItem, {""}),
+        ENTRY(ZelGUISetStatusLine, {}),
+        ENTRY(ZelGUISidebarActivate, {""}),
+        ENTRY(ZelGUISidebarDeactivateAll, {}),
+        ENTRY(ZelGUISidebarIsActive, {""}),
+        ENTRY(ZelGUISidebarRegister, {}),
+        ENTRY(ZelGUITextAddKeyEventCallback, {""}),
+        ENTRY(ZelGUITextInsertString, {""}),
+        ENTRY(ZelGUITextSetInsertPos, {""}),
+        ENTRY(ZelGUITextSetMaxInsertPos, {""}),
+        ENTRY(ZelGUITextSetMinInsertPos, {""}),
+        ENTRY(ZelGUIToggleAdd, {kWidget}),
+        ENTRY(ZelGUIToggleGet, {kButton}),
+        ENTRY(ZelGUIToggleSet, {kButton}),
     };
+    return all;
+}
+
+QVector<int> EntryPoint::positionsOf(const std::function<bool(Kind)> &isMeant) const
+{
+    QVector<int> positions;
+    for (int i = 0; i < parameters.size(); ++i) {
+        if (isMeant(parameters[i].kind))
+            positions << i;
+    }
+    return positions;
 }
 
 QStringList declaredFunctions()
 {
-    QFile header(QStringLiteral(ZELGUI_HEADER));
-    if (!header.open(QIODevice::ReadOnly))
-        return {};
-    static const QRegularExpression declaration(QStringLiteral(R"(^ZELGUI_API [^(]*?(ZelGUI\w+)\()"),
-                                                QRegularExpression::MultilineOption);
-    QStringList names;
-    auto matches = declaration.globalMatch(QString::fromUtf8(header.readAll()));
-    while (matches.hasNext())
-        names << matches.next().captured(1);
-    names.sort();
-    return names;
+    return declarations().keys();
 }

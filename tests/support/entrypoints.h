@@ -3,27 +3,83 @@
 #define TESTS_SUPPORT_ENTRYPOINTS_H
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <functional>
+#include <variant>
 
-/// One function of the interface, called with an identifier and otherwise harmless arguments.
+/// What a parameter takes: its type; and for numbers, whether they are identifiers.
+enum class Kind {
+    Id,
+    Int,
+    Byte,
+    LgIndex,
+    Double,
+    Text,
+    Pixels,
+    Positions,
+    Set,
+    StringList,
+    OutInt,
+    OutInts,
+    OutByte,
+    OutLgIndex,
+    OutDouble,
+    OutSet,
+    VoidCallback,
+    IntCallback,
+    TextCallback
+};
+
+inline bool isPointer(Kind kind)
+{
+    return kind > Kind::Double;
+}
+inline bool isCallback(Kind kind)
+{
+    return kind >= Kind::VoidCallback;
+}
+inline bool isOutput(Kind kind)
+{
+    return kind >= Kind::OutInt && kind <= Kind::OutSet;
+}
+
+struct Parameter
+{
+    Kind kind;
+    /// As the public header has it.
+    QString name;
+    /// For identifiers: the toolkit classes of the objects that are taken, or the names of kinds of object that share
+    /// their class with others; empty if none is looked up.
+    QStringList accepts;
+};
+
+/// Integers of every size, doubles, data of every type, and callbacks.
+using Argument = std::variant<qint64, double, void *, void (*)()>;
+
+/// One function of the interface.
 struct EntryPoint
 {
     const char *name;
-    /// The toolkit classes of the objects that it works on, separated by commas; empty: it looks no identifier up.
-    const char *accepts;
-    /// Its answer, written out together with its output arguments.
-    std::function<QString(int id)> call;
-    /// Its answer for an identifier that names nothing, and without a GUI where that differs.
+    QVector<Parameter> parameters;
+    /// Calls it with one argument for each parameter. The answer is written out; memory behind it is released.
+    std::function<QString(const QVector<Argument> &)> call;
+    /// The answer where an identifier names nothing, and without a GUI where that differs.
     QString neutral;
     QString withoutGui = neutral;
+
+    QVector<int> positionsOf(const std::function<bool(Kind)> &isMeant) const;
+    QVector<int> identifiers() const
+    {
+        return positionsOf([](Kind kind) { return kind == Kind::Id; });
+    }
 };
 
-/// All functions of the public header.
-QVector<EntryPoint> entryPoints();
+/// All that this table has of the public header.
+const QVector<EntryPoint> &entryPoints();
 
-/// Their names, as the public header declares them.
+/// The names of all functions, as the public header declares them.
 QStringList declaredFunctions();
 
 #endif

@@ -7,8 +7,6 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QMetaEnum>
-#include <QMetaProperty>
-#include <QTabBar>
 #include <QTimer>
 
 #include <array>
@@ -152,22 +150,4 @@ void ZelTest::whenModal(int dialogId, std::function<void()> step)
         step();
     });
     timer->start(1);
-}
-
-QStringList ZelTest::snapshot() const
-{
-    // Qt 5 can't read this property under its own type's name otherwise.
-    qRegisterMetaType<QTabBar::SelectionBehavior>("SelectionBehavior");
-    QStringList state;
-    for (const QObject *const object : m_mainWindow->findChildren<QObject *>()) {
-        const QMetaObject *const meta = object->metaObject();
-        QString line = QString::fromLatin1(meta->className());
-        for (int i = 0; i < meta->propertyCount(); ++i) {
-            QString value;
-            QDebug(&value) << meta->property(i).read(object);
-            line += QLatin1Char(' ') + QString::fromLatin1(meta->property(i).name()) + QLatin1Char('=') + value;
-        }
-        state << line;
-    }
-    return state;
 }

@@ -124,9 +124,6 @@ public:
     /// Runs `step` when the dialog is the active modal one, inside the loop of its launch.
     void whenModal(int dialogId, std::function<void()> step);
 
-    /// Every property of every object below the main window.
-    QStringList snapshot() const;
-
 protected Q_SLOTS:
     void initTestCase();
     void init();
