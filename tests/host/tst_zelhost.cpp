@@ -111,6 +111,13 @@ void TestZelhost::badStartIsOneLine_data()
     }
     row("timeout without pictures", {s("--timeout"), s("5"), silent}, {s("--render")});
     row("batch with pictures", {s("--batch"), s("--render"), QDir::tempPath(), silent}, {s("--batch")});
+
+    row("new add-on in a directory with files", {s("--new-addon"), s(MODULE_FOLDER)}, {s("not empty")});
+    row("new add-on in a file", {s("--new-addon"), s(NOT_A_MODULE)}, {s("not a directory")});
+    row("new add-on where nothing can be", {s("--new-addon"), s("/proc/new")}, {s("/proc/new")});
+    row("new add-on, and one to run", {s("--new-addon"), s("new"), silent}, {s("--new-addon")});
+    row("new add-on in no language", {s("--new-addon"), s("new"), s("--language"), s("c")}, {s("C++")});
+    row("language of nothing", {s("--language"), s("C"), silent}, {s("--new-addon")});
 }
 
 void TestZelhost::badStartIsOneLine()
