@@ -8,10 +8,7 @@ else()
     message(FATAL_ERROR "ZELGUI_QT_MAJOR is \"${ZELGUI_QT_MAJOR}\"; it has to be 5 or 6.")
 endif()
 
-find_package(Qt${ZELGUI_QT_MAJOR} ${ZELGUI_QT_MINIMUM} REQUIRED COMPONENTS Widgets)
-if(BUILD_TESTING)
-    find_package(Qt${ZELGUI_QT_MAJOR} ${ZELGUI_QT_MINIMUM} REQUIRED COMPONENTS Test)
-endif()
+find_package(Qt${ZELGUI_QT_MAJOR} ${ZELGUI_QT_MINIMUM} REQUIRED COMPONENTS Widgets Test)
 find_package(Boost REQUIRED)
 
 set(CMAKE_AUTOMOC ON)

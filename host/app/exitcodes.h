@@ -6,6 +6,8 @@
 enum ExitCode {
     Success = 0,
     Failure = 1,
+    /// A step of a script could not be done.
+    StepFailed = 2,
     LeaksFound = 3,
 };
 

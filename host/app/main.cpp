@@ -15,13 +15,19 @@
 
 namespace {
 
+/// Without anybody who would have to see something.
+bool isUnattended(const Options &options)
+{
+    return !options.pictureDirectory.isEmpty() || !options.scriptFile.isEmpty();
+}
+
 /// Sees to a platform that can start; the toolkit would abort the process. False if there is none.
 bool choosePlatform(const Options &options)
 {
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         return true;
     const bool display = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    if (options.batch || (!display && !options.pictureDirectory.isEmpty())) {
+    if (options.batch || (!display && isUnattended(options))) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         return true;
     }
@@ -39,6 +45,8 @@ int runHost(const Options &options)
         return runInBatch(session);
     if (!options.pictureDirectory.isEmpty())
         return drawPictures(options, session);
+    if (!options.scriptFile.isEmpty())
+        return playScript(options, session);
     return runInteractively(session);
 }
 

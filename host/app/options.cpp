@@ -131,8 +131,14 @@ std::vector<Declaration> declarations()
              options.reportLeaks = true;
              return QString();
          }},
+        {valued("script", "FILE", "Does what FILE says, step by step, and ends. Needs no display."),
+         [](Options &options, const QString &value) {
+             options.scriptFile = value;
+             return value.isEmpty() ? QStringLiteral("a file") : QString();
+         }},
         {valued("timeout", "SECONDS",
-                "Ends the program when an entry takes longer than this with --render; 20 if not given."),
+                "Ends the program when an entry takes longer than this with --render, or a step with --script; 20 if "
+                "not given."),
          [](Options &options, const QString &value) {
              options.timeoutSeconds = positiveNumber(value, 1e6);
              return options.timeoutSeconds ? QString()
@@ -152,8 +158,12 @@ QString contradiction(const Options &options, const QStringList &given)
         return QStringLiteral("--language has an effect only with --new-addon");
     if (!options.pictureDirectory.isEmpty() && options.batch)
         return QStringLiteral("--batch shows nothing that --render could draw");
-    if (options.timeoutSeconds && options.pictureDirectory.isEmpty())
-        return QStringLiteral("--timeout has an effect only with --render");
+    if (options.timeoutSeconds && options.pictureDirectory.isEmpty() && options.scriptFile.isEmpty())
+        return QStringLiteral("--timeout has an effect only with --render or --script");
+    if (!options.scriptFile.isEmpty() && (options.batch || !options.pictureDirectory.isEmpty()))
+        return QStringLiteral("--script goes neither with --batch nor with --render");
+    if (!options.scriptFile.isEmpty() && !options.launches.isEmpty())
+        return QStringLiteral("--script leaves nothing to --launch: its steps launch");
     if (options.addOnFiles.isEmpty())
         return QStringLiteral("no add-on given; --help tells more");
     return {};
@@ -179,9 +189,10 @@ QString takeValues(const QCommandLineParser &parser, const Declaration &declarat
 CommandLine readCommandLine(const QStringList &arguments, Options &options, QString &text)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("A host for add-ons: loads the modules ADDON and offers what they register in its menu.\n\n"
-                       "The exit code is 0, 1 after an error, or 3 if --report-leaks has found something."));
+    parser.setApplicationDescription(QStringLiteral(
+        "A host for add-ons: loads the modules ADDON and offers what they register in its menu.\n\n"
+        "The exit code is 0; 1 after an error, or when time is up; 2 if a step of a script could not be done; 3 if "
+        "--report-leaks has found something."));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
                                      QStringLiteral("Shows the version."));

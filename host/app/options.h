@@ -31,7 +31,9 @@ struct Options
     std::optional<Font> font;
     /// Where the pictures go; empty if none are to be drawn.
     QString pictureDirectory;
-    /// How long one entry may take while pictures are drawn.
+    /// The script to play; empty if there is none.
+    QString scriptFile;
+    /// How long one entry, or one step of a script, may take.
     std::optional<double> timeoutSeconds;
     /// Where to write the project of a new add-on; empty if none is to be written.
     QString newAddOnDirectory;

@@ -8,7 +8,7 @@
 #include <string>
 #include <thread>
 
-/// Ends the process, with one line on the standard error and exit code 1, when an add-on does not finish in time. It
+/// Ends the process, with one line on the standard error, when an add-on does not finish in time. It
 /// has a thread of its own, so it also ends an add-on that never returns to the event loop.
 class Watchdog
 {
@@ -16,8 +16,10 @@ public:
     explicit Watchdog(double timeoutSeconds);
     ~Watchdog();
 
-    /// Gives `name`, UTF-8, the full time from now on.
-    void watch(const std::string &name);
+    /// Gives `name`, UTF-8, the full time from now on. After that, the process ends with `exitCode`.
+    void watch(const std::string &name, int exitCode = 1);
+    /// What the message is to add, UTF-8, if it comes to that.
+    void remark(const std::string &text);
     /// What was watched has finished.
     void rest();
 
@@ -33,6 +35,8 @@ private:
     /// Clock::time_point::max() while nothing is watched.
     Clock::time_point m_deadline = Clock::time_point::max();
     std::string m_name;
+    std::string m_remark;
+    int m_exitCode = 1;
     bool m_stopping = false;
     std::thread m_thread;
 };

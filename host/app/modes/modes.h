@@ -13,5 +13,7 @@ int runInBatch(const Session &session);
 int runInteractively(const Session &session);
 /// Saves pictures of the dialogs of what is chosen, or of all.
 int drawPictures(const Options &options, const Session &session);
+/// Does what a script says.
+int playScript(const Options &options, const Session &session);
 
 #endif

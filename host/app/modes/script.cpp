@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "modes.h"
+
+#include "../exitcodes.h"
+#include "../messages.h"
+#include "../script/language.h"
+#include "../script/player.h"
+
+#include <QFile>
+
+int playScript(const Options &options, const Session &session)
+{
+    QFile file(options.scriptFile);
+    if (!file.open(QIODevice::ReadOnly)) {
+        complain(QStringLiteral("--script %1: %2").arg(options.scriptFile, file.errorString()));
+        return Failure;
+    }
+    std::vector<Step> steps;
+    const QString failure = readSteps(QString::fromUtf8(file.readAll()), steps);
+    if (!failure.isEmpty()) {
+        complain(QStringLiteral("%1:%2").arg(options.scriptFile, failure));
+        return Failure;
+    }
+    Windows windows(*session.window);
+    Stage stage;
+    stage.windows = &windows;
+    stage.mainWindow = session.window.get();
+    stage.addOns = session.registered;
+    Player player(options.scriptFile, std::move(steps), std::move(stage),
+                  options.timeoutSeconds.value_or(DefaultTimeoutSeconds));
+    return player.run();
+}
