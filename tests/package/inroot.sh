@@ -26,7 +26,7 @@ for language in C C++; do
     quietly zelhost --new-addon "/tmp/new-$language" --language "$language"
     quietly cmake -S "/tmp/new-$language" -B "/tmp/new-$language/build"
     quietly cmake --build "/tmp/new-$language/build"
-    quietly zelhost --report-leaks --render "/tmp/new-$language" "/tmp/new-$language/build"/*.so
+    quietly ctest --test-dir "/tmp/new-$language/build" --no-tests=error --output-on-failure
 done
 # shellcheck disable=SC2046
 quietly cc -shared -fPIC -o /tmp/hello.so /usr/share/doc/zelhost/addons/hello/hello.c $(pkg-config --cflags --libs zelgui)
