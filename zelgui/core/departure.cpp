@@ -20,21 +20,37 @@ int callbacksInProgress = 0;
 using Departing = std::vector<const QObject *>;
 using Kept = std::vector<QPointer<QWidget>>;
 
-// Neither is ever deleted: a host may destroy its main window after the library's static objects.
+// Neither is ever deleted: a host may destroy its main window after the library's static objects. Neither is made
+// before it is needed, so that loading the library does no work.
 
-/// What is leaving, down from its topmost object. Nearly always empty.
-Departing &departing = *new Departing;
+/// What is leaving, down from its topmost object.
+Departing &departing()
+{
+    static auto *const objects = new Departing;
+    return *objects;
+}
 
 /// What is to be deleted when the last callback has returned.
-Kept &keptForCallbacks = *new Kept;
+Kept &keptForCallbacks()
+{
+    static auto *const widgets = new Kept;
+    return *widgets;
+}
+
+bool isDepartingItself(const QObject *object)
+{
+    return std::find(departing().begin(), departing().end(), object) != departing().end();
+}
 
 void markDeparting(QWidget *window)
 {
-    if (std::find(departing.begin(), departing.end(), window) != departing.end())
+    if (isDepartingItself(window))
         return;
-    departing.push_back(window);
+    departing().push_back(window);
+    leavingCount = departing().size();
     QObject::connect(window, &QObject::destroyed, [window] {
-        departing.erase(std::remove(departing.begin(), departing.end(), window), departing.end());
+        departing().erase(std::remove(departing().begin(), departing().end(), window), departing().end());
+        leavingCount = departing().size();
     });
 }
 
@@ -51,7 +67,7 @@ void keepContent(QWidget *window)
 {
     auto *const keeper = new QWidget;
     markDeparting(keeper);
-    keptForCallbacks.emplace_back(keeper);
+    keptForCallbacks().emplace_back(keeper);
     const auto content = window->findChildren<QObject *>(QString(), Qt::FindDirectChildrenOnly);
     for (QObject *const object : content) {
         if (auto *const widget = qobject_cast<QWidget *>(object))
@@ -73,11 +89,11 @@ CallbackInProgress::~CallbackInProgress()
     if (--callbacksInProgress > 0)
         return;
     // Not at once: the signal that led to the callback is still being sent.
-    for (const QPointer<QWidget> &widget : keptForCallbacks) {
+    for (const QPointer<QWidget> &widget : keptForCallbacks()) {
         if (widget)
             widget->deleteLater();
     }
-    keptForCallbacks.clear();
+    keptForCallbacks().clear();
 }
 
 void outliveParentDuringCallbacks(QWidget *dialog)
@@ -89,7 +105,7 @@ void outliveParentDuringCallbacks(QWidget *dialog)
         markDeparting(dialog);
         hideWithDialogs(dialog);
         dialog->setParent(nullptr, dialog->windowFlags());
-        keptForCallbacks.emplace_back(dialog);
+        keptForCallbacks().emplace_back(dialog);
     });
 }
 
@@ -101,12 +117,12 @@ void depart(QWidget *dialog)
         keepContent(dialog);
 }
 
-bool isLeaving(const QObject *object)
+std::size_t leavingCount = 0;
+
+bool isInsideLeaving(const QObject *object)
 {
-    if (departing.empty())
-        return false;
     for (; object; object = object->parent()) {
-        if (std::find(departing.begin(), departing.end(), object) != departing.end())
+        if (isDepartingItself(object))
             return true;
     }
     return false;

@@ -2,6 +2,8 @@
 #ifndef ZELGUI_CORE_DEPARTURE_H
 #define ZELGUI_CORE_DEPARTURE_H
 
+#include <cstddef>
+
 class QObject;
 class QWidget;
 
@@ -30,8 +32,15 @@ void outliveParentDuringCallbacks(QWidget *dialog);
 /// returned. For the dialog's destructor, while it still is a complete dialog.
 void depart(QWidget *dialog);
 
+/// How many windows are leaving: nearly always none.
+extern std::size_t leavingCount;
+bool isInsideLeaving(const QObject *object);
+
 /// Whether an object is in something that is leaving. Its identifier finds nothing any more.
-bool isLeaving(const QObject *object);
+inline bool isLeaving(const QObject *object)
+{
+    return leavingCount > 0 && isInsideLeaving(object);
+}
 
 /// Whether nothing may be reported about an object any more: it is leaving, or the GUI is
 /// gone.

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "core/repository.h"
 
-#include "core/departure.h"
-
 #include <common_ui_qt/mainwindow.h>
 #include <zvsdkbase/zelutil.h>
 
@@ -12,10 +10,13 @@
 
 namespace orvane::zelgui {
 
-ZelGUIWidgetRepository *ZelGUIWidgetRepository::instance()
+ZelGUIWidgetRepository *ZelGUIWidgetRepository::s_instance = nullptr;
+
+ZelGUIWidgetRepository *ZelGUIWidgetRepository::create()
 {
     // Never deleted: add-ons may still call while the process ends.
     static auto *const repository = new ZelGUIWidgetRepository;
+    s_instance = repository;
     return repository;
 }
 
@@ -32,12 +33,6 @@ int ZelGUIWidgetRepository::addWidget(QObject *object)
     object->setObjectName(QString::number(id));
     m_objects.emplace_back(object);
     return id;
-}
-
-QObject *ZelGUIWidgetRepository::widget(int id) const
-{
-    QObject *const object = isValidId(id) ? m_objects[static_cast<std::size_t>(id)].data() : nullptr;
-    return object && !isLeaving(object) ? object : nullptr;
 }
 
 int ZelGUIWidgetRepository::idOf(const QObject *object) const

@@ -25,6 +25,24 @@ bool isFormatNumberTooLong(const QString &digits)
     return !digits.isEmpty() && (!isNumber || number > kLongestFormatNumber);
 }
 
+/// The format as it is to be used; null if it is none for a number.
+QByteArray usableFormat(const char *format)
+{
+    // The format is the add-on's, so whatever might make asprintf read an argument that isn't there has to be kept from
+    // it. 'l' has no effect on a double, 'L' would read a longer one.
+    static const QRegularExpression pattern(
+        QStringLiteral(R"(\A[^%]*+(?:%%[^%]*+)*+%[-+ #0]*+(\d*+)(?:\.(\d*+))?l?[aefgAEFG][^%]*+(?:%%[^%]*+)*+\z)"));
+    // Only ASCII has a meaning here, and Latin-1 keeps every other byte a character of its own.
+    const QRegularExpressionMatch match = pattern.match(fromLatin1(format));
+    if (!match.hasMatch() || isFormatNumberTooLong(match.captured(1)) || isFormatNumberTooLong(match.captured(2)))
+        return {};
+    QByteArray precise(format);
+    // A point without digits means none behind it; Qt 5 takes it for no precision at all.
+    if (match.capturedStart(2) >= 0 && match.capturedLength(2) == 0)
+        precise.insert(match.capturedStart(2), '0');
+    return precise;
+}
+
 } // namespace
 
 QString fromLatin1(const char *text)
@@ -50,19 +68,16 @@ QString fromUtf8(const char *text)
 
 QString formatDouble(const char *format, double value)
 {
-    // The format is the add-on's, so whatever might make asprintf read an argument that isn't there has to be kept from
-    // it. 'l' has no effect on a double, 'L' would read a longer one.
-    static const QRegularExpression pattern(
-        QStringLiteral(R"(\A[^%]*+(?:%%[^%]*+)*+%[-+ #0]*+(\d*+)(?:\.(\d*+))?l?[aefgAEFG][^%]*+(?:%%[^%]*+)*+\z)"));
-    // Only ASCII has a meaning here, and Latin-1 keeps every other byte a character of its own.
-    const QRegularExpressionMatch match = pattern.match(fromLatin1(format));
-    if (!match.hasMatch() || isFormatNumberTooLong(match.captured(1)) || isFormatNumberTooLong(match.captured(2)))
+    if (!format)
         return {};
-    QByteArray precise(format);
-    // A point without digits means none behind it; Qt 5 takes it for no precision at all.
-    if (match.capturedStart(2) >= 0 && match.capturedLength(2) == 0)
-        precise.insert(match.capturedStart(2), '0');
-    return QString::asprintf(precise.constData(), value);
+    // Add-ons write many numbers in few formats, and to look at one takes longer than to use it.
+    static QByteArray lastFormat;
+    static QByteArray usable;
+    if (lastFormat != format) {
+        usable = usableFormat(format);
+        lastFormat = format;
+    }
+    return usable.isNull() ? QString() : QString::asprintf(usable.constData(), value);
 }
 
 char *allocHostString(const QString &text)

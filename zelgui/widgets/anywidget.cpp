@@ -25,13 +25,13 @@ using Constituents = std::vector<QPointer<QWidget>>;
 /// make an add-on destroy the others.
 Constituents constituentWidgets(QObject &object)
 {
-    if (const auto *const radioBox = dynamic_cast<ZelGUIRadioBox *>(&object)) {
+    if (const auto *const radioBox = qobject_cast<ZelGUIRadioBox *>(&object)) {
         const auto buttons = radioBox->buttons();
         return {buttons.begin(), buttons.end()};
     }
-    if (auto *const scale = dynamic_cast<ZelGUIScale *>(&object))
+    if (auto *const scale = qobject_cast<ZelGUIScale *>(&object))
         return {scale, scale->numericDisplay()};
-    if (auto *const spin = dynamic_cast<ZelGUISpinTextField *>(&object))
+    if (auto *const spin = qobject_cast<ZelGUISpinTextField *>(&object))
         return {spin, spin->textField()};
     return {qobject_cast<QWidget *>(&object)};
 }

@@ -14,7 +14,10 @@ namespace orvane::zelgui {
 
 namespace {
 
-const QString kMX = QStringLiteral("MX");
+QString mx()
+{
+    return QStringLiteral("MX");
+}
 
 } // namespace
 
@@ -36,7 +39,7 @@ std::optional<double> readDouble(const QLineEdit &field)
 
 bool containsMX(const QLineEdit &field)
 {
-    return field.text().contains(kMX, Qt::CaseInsensitive);
+    return field.text().contains(mx(), Qt::CaseInsensitive);
 }
 
 std::optional<LgIndex> readLgIndex(const QLineEdit &field)
@@ -48,9 +51,9 @@ std::optional<LgIndex> readLgIndex(const QLineEdit &field)
     static const QRegularExpression kOffset(QStringLiteral(R"(MX\s*-\s*(\d+))"), kOptions);
 
     const QString text = field.text().toUpper().trimmed();
-    if (text == kMX)
+    if (text == mx())
         return 0;
-    const bool isMX = text.contains(kMX);
+    const bool isMX = text.contains(mx());
     const QRegularExpressionMatch match = (isMX ? kOffset : kPlain).match(text);
     bool isNumber = false;
     const LgIndex number = match.captured(1).toInt(&isNumber);
