@@ -6,7 +6,7 @@
 #include "core/placement.h"
 #include "core/text.h"
 
-#include <QTextBlock>
+#include <QTextDocument>
 
 namespace orvane::zelgui {
 
@@ -15,14 +15,8 @@ namespace {
 /// The text as it was put in. The toolkit's own answer has blanks for no-break spaces, and line feeds for U+2028.
 QString textOf(const QPlainTextEdit &edit)
 {
-    const QTextDocument *const document = edit.document();
-    QString text;
-    text.reserve(document->characterCount());
-    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
-        if (block.blockNumber() > 0)
-            text += QLatin1Char('\n');
-        text += block.text();
-    }
+    QString text = edit.document()->toRawText();
+    text.replace(QChar(QChar::ParagraphSeparator), QLatin1Char('\n'));
     return text;
 }
 
@@ -46,7 +40,8 @@ ZelGUIText::ZelGUIText(QWidget *parent, int x, int y, int width, int height, boo
 
 void ZelGUIText::onTextChanged()
 {
-    if (!ZelGUIWidgetRepository::instance()->callbacksSuppressed())
+    // The whole text is gathered only for who wants to hear of it.
+    if (m_callback && !ZelGUIWidgetRepository::instance()->callbacksSuppressed())
         askWhetherAccepted(this, m_callback, textOf(*this));
 }
 
