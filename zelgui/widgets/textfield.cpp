@@ -93,7 +93,15 @@ ZelGUITextField::ZelGUITextField(ZelGUITextCallback callback) : m_callback(callb
 void ZelGUITextField::watchEditing()
 {
     connect(this, &QLineEdit::returnPressed, this, &ZelGUITextField::editingFinished);
-    connect(this, &QLineEdit::textChanged, this, [this] { m_isRejected = false; });
+}
+
+void ZelGUITextField::watchCorrection()
+{
+    // Only now: most fields never see a text rejected, and are set far more often.
+    m_correction = connect(this, &QLineEdit::textChanged, this, [this] {
+        m_isRejected = false;
+        disconnect(m_correction);
+    });
 }
 
 void ZelGUITextField::editingFinished()
@@ -108,6 +116,8 @@ void ZelGUITextField::editingFinished()
         return;
     m_isReporting = false;
     m_isRejected = !isAccepted;
+    if (m_isRejected && !m_correction)
+        watchCorrection();
     // What is out of the user's reach can't be corrected. A spin box is disabled before the field inside it.
     const QWidget *const focused = focusProxy() ? focusProxy() : this;
     if (isAccepted || !isVisible() || !focused->isEnabled())

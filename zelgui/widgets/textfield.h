@@ -39,6 +39,7 @@ private Q_SLOTS:
 
 private:
     void watchEditing();
+    void watchCorrection();
     bool isLossToReport(const QFocusEvent &event) const;
 
     ZelGUITextCallback m_callback;
@@ -47,6 +48,7 @@ private:
     bool m_isReporting = false;
     /// Whether the add-on has rejected the text as it is now, since the field was shown.
     bool m_isRejected = false;
+    QMetaObject::Connection m_correction;
 };
 
 } // namespace orvane::zelgui
