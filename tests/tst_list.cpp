@@ -104,6 +104,8 @@ void click(QListWidget *list, int position, Qt::KeyboardModifiers modifiers = Qt
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(int, QListWidget &, QListWidget &)>)
+
 /// Lists. What selecting many items at once has to come to is asked of a bare list widget of the toolkit's, where they
 /// are selected one by one.
 class tst_List : public ZelTest
@@ -118,6 +120,8 @@ private Q_SLOTS:
     void order_data();
     void order();
     void randomOrder();
+    void oneAtATimeAmongMany_data();
+    void oneAtATimeAmongMany();
     void userSelection();
     void userSelectsOne();
     void rangeByUserAfterAddOn();
@@ -300,6 +304,73 @@ void tst_List::randomOrder()
         QVERIFY2(sorted(selectionOf(id)) == sorted(selectedRowsOf(bare)), qPrintable(history));
         delete list;
     }
+}
+
+void tst_List::oneAtATimeAmongMany_data()
+{
+    using Step = std::function<void(int id, QListWidget &list, QListWidget &bare)>;
+    QTest::addColumn<Step>("step");
+    const auto row = [](const char *name, const Step &step) { QTest::newRow(name) << step; };
+    row("add-on reads", [](int id, QListWidget &, QListWidget &bare) {
+        QCOMPARE(selectionOf(id), selectedRowsOf(bare));
+        QCOMPARE(ZelGUIListGetSelectedItem(id), selectedRowsOf(bare).first());
+    });
+    row("add-on selects several", [](int id, QListWidget &, QListWidget &bare) {
+        select(id, {700, 3, 500});
+        for (const int position : {700, 3, 500})
+            selectRange(bare, position, position, QItemSelectionModel::Select);
+    });
+    row("add-on appends and selects", [](int id, QListWidget &, QListWidget &bare) {
+        ZelGUIListAppendItem(id, "new");
+        bare.addItem(QString());
+        ZelGUIListSetSelectedItem(id, bare.count());
+        selectRange(bare, bare.count(), bare.count(), QItemSelectionModel::Select);
+    });
+    row("add-on deletes", [](int id, QListWidget &, QListWidget &bare) {
+        ZelGUIListDeleteItemAtPos(id, 2);
+        bare.model()->removeRow(1);
+    });
+    row("host inserts", [](int, QListWidget &list, QListWidget &bare) {
+        list.insertItem(2, QString());
+        bare.insertItem(2, QString());
+    });
+    row("host removes", [](int, QListWidget &list, QListWidget &bare) {
+        delete list.takeItem(1);
+        delete bare.takeItem(1);
+    });
+    row("user clicks", [](int, QListWidget &list, QListWidget &bare) {
+        list.scrollToTop();
+        click(&list, 2, Qt::ControlModifier);
+        selectRange(bare, 2, 2, QItemSelectionModel::Toggle);
+    });
+    row("nobody looks", [](int, QListWidget &, QListWidget &) {});
+}
+
+/// Among many ranges, what is selected one by one reaches the toolkit later than the call. Nobody may see that.
+void tst_List::oneAtATimeAmongMany()
+{
+    using Step = std::function<void(int id, QListWidget &list, QListWidget &bare)>;
+    QFETCH(Step, step);
+    constexpr int kCount = 800;
+    const int id = addList(launchModeless(), true, kCount);
+    auto *const list = shown<QListWidget>(id);
+    QListWidget bare;
+    for (int position = 1; position <= kCount; ++position)
+        bare.addItem(QString::number(position));
+    QRandomGenerator random(77);
+    for (int trial = 0; trial < 20; ++trial) {
+        for (int i = trial == 0 ? -400 : 0; i < 30; ++i) {
+            const int position = random.bounded(1, kCount / 2) * 2;
+            ZelGUIListSetSelectedItem(id, position);
+            selectRange(bare, position, position, QItemSelectionModel::Select);
+        }
+        step(id, *list, bare);
+        if (QTest::currentTestFailed())
+            return;
+        QTest::qWait(0);
+        QCOMPARE(rangesOf(*list), rangesOf(bare));
+    }
+    QVERIFY(rangesOf(*list).size() > 256);
 }
 
 void tst_List::userSelection()

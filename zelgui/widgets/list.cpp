@@ -5,7 +5,8 @@
 #include "core/entrypoint.h"
 #include "core/placement.h"
 #include "core/text.h"
-#include "util/selectionorder.h"
+#include "widgets/bulkchange.h"
+#include "widgets/pendingselection.h"
 
 #include <zvtoolbox/stringlist.h>
 
@@ -16,30 +17,6 @@
 namespace orvane::zelgui {
 
 namespace {
-
-/// Lives while the add-on changes many rows: nothing is reported, and a visible list repaints once, instead of looking
-/// up where each of the rows is.
-class BulkChange
-{
-public:
-    explicit BulkChange(QListWidget &list) : m_list(list), m_hadUpdates(list.updatesEnabled())
-    {
-        if (m_hadUpdates)
-            m_list.setUpdatesEnabled(false);
-    }
-    ~BulkChange()
-    {
-        if (m_hadUpdates)
-            m_list.setUpdatesEnabled(true);
-    }
-    BulkChange(const BulkChange &) = delete;
-    BulkChange &operator=(const BulkChange &) = delete;
-
-private:
-    CallbackSuppressor m_suppressor;
-    QListWidget &m_list;
-    bool m_hadUpdates;
-};
 
 /// The model's index for a position, which counts from 1; invalid if there is no such item.
 QModelIndex indexAt(const QListWidget &list, int position)
@@ -104,27 +81,25 @@ void selectAll(QListWidget &list)
 }
 
 /// Adds to the selection, with the outcome of selecting one position after the other.
-void select(QListWidget &list, const int *positions, int count)
+void select(ZelGUIList &list, const int *positions, int count)
 {
     std::vector<int> rows;
     for (int i = 0; i < (positions ? count : 0); ++i) {
         if (indexAt(list, positions[i]).isValid())
             rows.push_back(positions[i] - 1);
     }
-    if (rows.empty())
-        return;
-    const BulkChange change(list);
-    selectInTurn(*list.selectionModel(), rows);
+    if (!rows.empty())
+        list.pendingSelection().selectNow(rows);
 }
 
-void selectAndShow(QListWidget &list, int position)
+void selectAndShow(ZelGUIList &list, int position)
 {
     const QModelIndex index = indexAt(list, position);
     // Without an item, single selection would be cleared.
     if (!index.isValid())
         return;
     if (list.selectionMode() == QAbstractItemView::ExtendedSelection) {
-        select(list, &position, 1);
+        list.pendingSelection().select(index.row());
     } else {
         const BulkChange change(list);
         list.selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
@@ -148,6 +123,25 @@ int capacity(QListWidget &list)
     return list.height() / std::max(rowHeight(list), 1);
 }
 
+/// The answer of `action` for a list whose selection is what the add-on has made it.
+template <typename Result, typename Action>
+Result withSettledList(int id, Result neutral, Action &&action) noexcept
+{
+    return withWidget<ZelGUIList>(id, neutral, [&](ZelGUIList &list) {
+        list.settleSelection();
+        return action(list);
+    });
+}
+
+template <typename Action>
+void withSettledList(int id, Action &&action) noexcept
+{
+    withSettledList(id, true, [&](ZelGUIList &list) {
+        action(list);
+        return true;
+    });
+}
+
 } // namespace
 
 ZelGUIList::ZelGUIList(QWidget *parent, int x, int y, int width, int height, bool isMultiSelection,
@@ -163,12 +157,39 @@ void ZelGUIList::onItemSelectedChanged()
 {
     if (!m_callback || ZelGUIWidgetRepository::instance()->callbacksSuppressed())
         return;
-    callOut(this, [this] {
+    const bool isStillThere = callOut(this, [this] {
         std::vector<int> positions = selectedPositions(*this);
         std::sort(positions.begin(), positions.end());
         positions.push_back(0);
         m_callback(positions.data());
     });
+    if (isStillThere)
+        settleSelection();
+}
+
+PendingSelection &ZelGUIList::pendingSelection()
+{
+    if (!m_pendingSelection)
+        m_pendingSelection = new PendingSelection(*this);
+    return *m_pendingSelection;
+}
+
+void ZelGUIList::settleSelection() noexcept
+{
+    if (m_pendingSelection)
+        m_pendingSelection->flush();
+}
+
+bool ZelGUIList::event(QEvent *event)
+{
+    settleSelection();
+    return QListWidget::event(event);
+}
+
+bool ZelGUIList::viewportEvent(QEvent *event)
+{
+    settleSelection();
+    return QListWidget::viewportEvent(event);
 }
 
 } // namespace orvane::zelgui
@@ -191,7 +212,7 @@ void ZelGUIListAppendItem(int listId, const char *text)
 
 void ZelGUIListSetItems(int listId, StringList_s *items)
 {
-    withWidget<QListWidget>(listId, [items](QListWidget &list) { setItems(list, textsOf(items)); });
+    withSettledList(listId, [items](QListWidget &list) { setItems(list, textsOf(items)); });
 }
 
 char *ZelGUIListGetString(int listId, int position)
@@ -208,7 +229,7 @@ int ZelGUIListGetItemCount(int listId)
 
 void ZelGUIListDeleteAllItems(int listId)
 {
-    withWidget<QListWidget>(listId, [](QListWidget &list) {
+    withSettledList(listId, [](QListWidget &list) {
         const BulkChange change(list);
         list.clear();
     });
@@ -216,7 +237,7 @@ void ZelGUIListDeleteAllItems(int listId)
 
 void ZelGUIListDeleteItemAtPos(int listId, int position)
 {
-    withWidget<QListWidget>(listId, [position](QListWidget &list) {
+    withSettledList(listId, [position](QListWidget &list) {
         const CallbackSuppressor suppressor;
         list.model()->removeRow(indexAt(list, position).row());
     });
@@ -232,7 +253,7 @@ void ZelGUIListReplaceItem(int listId, const char *text, int position)
 
 int ZelGUIListGetSelectedItem(int listId)
 {
-    return withWidget<QListWidget>(listId, -1, [](const QListWidget &list) {
+    return withSettledList(listId, -1, [](const QListWidget &list) {
         const QItemSelection selection = list.selectionModel()->selection();
         return selection.isEmpty() ? -1 : selection.first().top() + 1;
     });
@@ -240,13 +261,13 @@ int ZelGUIListGetSelectedItem(int listId)
 
 void ZelGUIListGetSelectedItems(int listId, int **selected, int *count)
 {
-    withWidget<QListWidget>(
-        listId, [selected, count](const QListWidget &list) { handOutSelectedPositions(list, selected, count); });
+    withSettledList(listId,
+                    [selected, count](const QListWidget &list) { handOutSelectedPositions(list, selected, count); });
 }
 
 void ZelGUIListDeselectAllItems(int listId)
 {
-    withWidget<QListWidget>(listId, [](QListWidget &list) {
+    withSettledList(listId, [](QListWidget &list) {
         const BulkChange change(list);
         list.clearSelection();
     });
@@ -254,17 +275,17 @@ void ZelGUIListDeselectAllItems(int listId)
 
 void ZelGUIListSelectAllItems(int listId)
 {
-    withWidget<QListWidget>(listId, [](QListWidget &list) { selectAll(list); });
+    withSettledList(listId, [](QListWidget &list) { selectAll(list); });
 }
 
 void ZelGUIListSetSelectedItem(int listId, int position)
 {
-    withWidget<QListWidget>(listId, [position](QListWidget &list) { selectAndShow(list, position); });
+    withWidget<ZelGUIList>(listId, [position](ZelGUIList &list) { selectAndShow(list, position); });
 }
 
 void ZelGUIListSetSelectedItems(int listId, const int *positions, int count)
 {
-    withWidget<QListWidget>(listId, [positions, count](QListWidget &list) { select(list, positions, count); });
+    withSettledList(listId, [positions, count](ZelGUIList &list) { select(list, positions, count); });
 }
 
 void ZelGUIListSetTopItemNum(int listId, int position)

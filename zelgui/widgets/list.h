@@ -8,6 +8,8 @@
 
 namespace orvane::zelgui {
 
+class PendingSelection;
+
 /// A scrolling list of texts, which reports all selected positions at every change that the user makes.
 class ZelGUIList : public QListWidget
 {
@@ -17,11 +19,20 @@ public:
     /// Position and size are in font units.
     ZelGUIList(QWidget *parent, int x, int y, int width, int height, bool isMultiSelection, ZelGUIIntCallback callback);
 
+    PendingSelection &pendingSelection();
+    /// Tells the toolkit of everything that the add-on has selected. For before anybody looks.
+    void settleSelection() noexcept;
+
+protected:
+    bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+
 private Q_SLOTS:
     void onItemSelectedChanged();
 
 private:
     ZelGUIIntCallback m_callback;
+    PendingSelection *m_pendingSelection = nullptr;
 };
 
 } // namespace orvane::zelgui

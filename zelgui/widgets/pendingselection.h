@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#ifndef ZELGUI_WIDGETS_PENDINGSELECTION_H
+#define ZELGUI_WIDGETS_PENDINGSELECTION_H
+
+#include <QObject>
+
+#include <vector>
+
+class QListWidget;
+
+namespace orvane::zelgui {
+
+/// Rows of a list that the add-on has selected one call at a time, and that the toolkit is yet to be told of.
+///
+/// Each change of a selection costs the toolkit time by the ranges that are selected already, so one row after the
+/// other would cost the square of their number. Where there are many ranges the rows are collected, and selected in one
+/// go before anybody looks: before an event reaches the list, before a function reads or changes the selection, before
+/// the model changes, and in any case in the next pass of the event loop.
+class PendingSelection : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Belongs to the list.
+    explicit PendingSelection(QListWidget &list);
+
+    /// Adds a row, which exists, to the selection.
+    void select(int row);
+    void selectNow(const std::vector<int> &rows);
+    void flush() noexcept
+    {
+        if (!m_rows.empty())
+            flushRows();
+    }
+
+private Q_SLOTS:
+    void onRowsAboutToBeInserted(const QModelIndex &parent, int first);
+    void flushRows() noexcept;
+
+private:
+    void watchModel();
+
+    QListWidget &m_list;
+    std::vector<int> m_rows;
+    bool m_isWatching = false;
+};
+
+} // namespace orvane::zelgui
+
+#endif
