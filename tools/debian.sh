@@ -27,8 +27,12 @@ build_packages='g++ cmake ninja-build libboost-dev qt6-base-dev fonts-dejavu-cor
 # shellcheck disable=SC2034
 check_packages='git qtbase5-dev pkg-config binutils clang-format clang-tidy shellcheck doxygen xvfb openbox xdotool abigail-tools
 fonts-dejavu-extra dbus at-spi2-core python3-pyatspi
-python3 gfortran man-db desktop-file-utils'
+valgrind python3 gfortran man-db desktop-file-utils'
 
 # What it takes to make Debian packages and to try them in a root folder of their own.
 # shellcheck disable=SC2034
 package_packages='git debhelper dpkg-dev lintian debootstrap'
+
+# What the benchmarks need besides.
+# shellcheck disable=SC2034
+bench_packages='qtbase5-dev libbenchmark-dev'

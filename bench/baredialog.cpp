@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "comparison.h"
+#include "mixeddialog.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QFontMetrics>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+
+namespace bench {
+
+namespace {
+
+void ignore() {}
+
+/// A bare dialog's window; it computes pixels once, as anyone would.
+class BareDialog
+{
+public:
+    explicit BareDialog(QWidget *parent) : m_dialog(new QDialog(parent))
+    {
+        m_line = QFontMetrics(m_dialog->font()).height();
+        m_dialog->setWindowTitle(QStringLiteral("Mixed"));
+        auto *const box = new QDialogButtonBox(QDialogButtonBox::Close, m_dialog);
+        box->setFixedWidth(across(9000) - 12);
+        box->move(6, down(5400) + 6);
+        QObject::connect(box, &QDialogButtonBox::rejected, m_dialog, &ignore);
+        m_dialog->setFixedSize(across(9000) + 8, down(5400) + box->sizeHint().height() + 12);
+    }
+
+    QDialog *dialog() const { return m_dialog; }
+
+    void fill(int x, int y)
+    {
+        auto *const label = new QLabel(QStringLiteral("Label"), m_dialog);
+        label->move(across(x), down(y));
+        label->setFixedWidth(label->sizeHint().width());
+
+        auto *const field = place(new QLineEdit(m_dialog), x + 600, y, 1000, 130);
+        QObject::connect(field, &QLineEdit::returnPressed, m_dialog, &ignore);
+        QObject::connect(field, &QLineEdit::textChanged, m_dialog, &ignore);
+
+        auto *const toggle = place(new QCheckBox(QStringLiteral("Toggle"), m_dialog), x, y + 150, 1000, 130);
+        QObject::connect(toggle, &QCheckBox::toggled, m_dialog, &ignore);
+
+        auto *const button = place(new QPushButton(QStringLiteral("Push"), m_dialog), x + 1000, y + 150, 600, 143);
+        button->setAutoDefault(false);
+        QObject::connect(button, &QPushButton::clicked, m_dialog, &ignore);
+
+        auto *const menu = new QComboBox(m_dialog);
+        place(menu, x, y + 300, 1000, 130);
+        menu->addItems({QStringLiteral("first"), QStringLiteral("second"), QStringLiteral("third")});
+        QObject::connect(menu, QOverload<int>::of(&QComboBox::currentIndexChanged), m_dialog, &ignore);
+
+        auto *const list = place(new QListWidget(m_dialog), x, y + 450, 800, 500);
+        list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+        list->addItem(QStringLiteral("item"));
+        QObject::connect(list, &QListWidget::itemSelectionChanged, m_dialog, &ignore);
+
+        auto *const slider = new QSlider(Qt::Horizontal, m_dialog);
+        slider->setRange(0, 100);
+        slider->setTickInterval(1);
+        place(slider, x + 900, y + 600, 700, 130);
+        auto *const display = new QLabel(m_dialog);
+        display->move(slider->x(), slider->y() - m_line);
+        display->setFixedSize(slider->width(), m_line);
+        display->setAlignment(Qt::AlignHCenter);
+        display->setNum(0);
+        QObject::connect(slider, &QSlider::valueChanged, m_dialog, &ignore);
+        QObject::connect(slider, &QSlider::actionTriggered, m_dialog, &ignore);
+
+        auto *const group = new QButtonGroup(m_dialog);
+        for (int i = 0; i < 2; ++i) {
+            auto *const radio = place(new QRadioButton(m_dialog), x + 900, y + 750 + 100 * i, 700, 100);
+            radio->setText(i == 0 ? QStringLiteral("one") : QStringLiteral("two"));
+            group->addButton(radio, i + 1);
+        }
+        group->button(1)->setChecked(true);
+        QObject::connect(group, &QButtonGroup::idClicked, m_dialog, &ignore);
+    }
+
+private:
+    int across(int units) const { return int(units / 100.0 * m_line * 0.45 + 0.499); }
+    int down(int units) const { return int(units / 100.0 * m_line + 0.499); }
+
+    template <typename T>
+    T *place(T *widget, int x, int y, int width, int height)
+    {
+        widget->move(across(x), down(y));
+        widget->setFixedSize(across(width), down(height));
+        widget->setFocusPolicy(Qt::StrongFocus);
+        return widget;
+    }
+
+    QDialog *m_dialog;
+    int m_line;
+};
+
+/// Notices that a window has been drawn.
+class PaintWatch : public QObject
+{
+public:
+    bool isPainted = false;
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        isPainted = isPainted || event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
+} // namespace
+
+QDialog *createBareDialog()
+{
+    BareDialog bare(mainWindow());
+    for (int i = 0; i < 25; ++i)
+        bare.fill(1 + i % 5 * 1700, 1 + i / 5 * 1000);
+    return bare.dialog();
+}
+
+void showUntilPainted(QDialog &dialog)
+{
+    PaintWatch watch;
+    dialog.installEventFilter(&watch);
+    dialog.show();
+    while (!watch.isPainted)
+        QApplication::processEvents();
+}
+
+} // namespace bench

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "comparison.h"
+
+#include "mixeddialog.h"
+
+#include <zelgui/zelgui.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace bench {
+
+namespace {
+
+/// Whatever the toolkit has put off is not to be counted for what comes next.
+void settle()
+{
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QApplication::processEvents();
+}
+
+/// The dialog of one side, in one of the stages of its life.
+struct Life
+{
+    std::unique_ptr<QDialog> dialog;
+    QDialog *(*create)();
+
+    void end()
+    {
+        dialog.reset();
+        settle();
+    }
+    void begin()
+    {
+        end();
+        dialog.reset(create());
+    }
+};
+
+using Stage = std::function<Side(const std::shared_ptr<Life> &)>;
+
+Case stage(const char *name, double limit, const Stage &side)
+{
+    const auto make = [side](int) {
+        mainWindow();
+        const auto library = std::make_shared<Life>(Life{nullptr, createLibraryDialog});
+        const auto bare = std::make_shared<Life>(Life{nullptr, createBareDialog});
+        return Comparison{side(library), side(bare)};
+    };
+    return {name, {Goal::Ratio, limit}, {0}, 1, make};
+}
+
+constexpr int kWidgets = 1000;
+
+void addBareLabel(QWidget *parent)
+{
+    auto *const label = new QLabel(QString::fromUtf8("A label"), parent);
+    label->move(9, 18);
+    label->setFixedWidth(label->sizeHint().width());
+}
+
+/// The heap that a thousand widgets of one kind take.
+Case memory(const char *name, void (*addLibrary)(int dialog), void (*addBare)(QWidget *parent))
+{
+    const auto side = [](const auto &add) {
+        const auto dialog = std::make_shared<std::unique_ptr<Dialog>>();
+        return Side{[dialog] {
+                        dialog->reset();
+                        settle();
+                        dialog->reset(new Dialog);
+                    },
+                    [dialog, add] {
+                        for (int i = 0; i < kWidgets; ++i)
+                            add((*dialog)->id());
+                    }};
+    };
+    const auto make = [=](int) {
+        return Comparison{side(addLibrary), side([addBare](int id) { addBare(object<QWidget>(id)); })};
+    };
+    return {name, {Goal::Difference, 150}, {0}, kWidgets, make, Meter::Heap};
+}
+
+} // namespace
+
+std::vector<Case> dialogCases()
+{
+    return {
+        stage("dialog of 200 widgets: create", 1.05,
+              [](const std::shared_ptr<Life> &life) {
+                  return Side{[life] { life->end(); }, [life] { life->dialog.reset(life->create()); }};
+              }),
+        stage("dialog of 200 widgets: show until painted", 1.02,
+              [](const std::shared_ptr<Life> &life) {
+                  return Side{[life] { life->begin(); }, [life] { showUntilPainted(*life->dialog); }};
+              }),
+        stage("dialog of 200 widgets: destroy", 1.05,
+              [](const std::shared_ptr<Life> &life) {
+                  return Side{[life] {
+                                  life->begin();
+                                  showUntilPainted(*life->dialog);
+                              },
+                              [life] { life->dialog.reset(); }};
+              }),
+        memory(
+            "memory of a label", [](int dialog) { ZelGUILabelAdd(dialog, 100, 100, "A label"); }, addBareLabel),
+        // The name, which says the identifier to the host, takes the toolkit more than all the rest.
+        memory(
+            "memory of a label, both with names", [](int dialog) { ZelGUILabelAdd(dialog, 100, 100, "A label"); },
+            [](QWidget *parent) {
+                addBareLabel(parent);
+                parent->children().last()->setObjectName(QString::number(10000 + parent->children().size()));
+            }),
+        memory(
+            "memory of a text field", [](int dialog) { ZelGUITextFieldAdd(dialog, 100, 100, 1000, 130, nullptr); },
+            [](QWidget *parent) {
+                auto *const field = new QLineEdit(parent);
+                field->move(9, 18);
+                field->setFixedSize(90, 23);
+                field->setFocusPolicy(Qt::StrongFocus);
+                QObject::connect(field, &QLineEdit::editingFinished, parent, &QWidget::hide);
+            }),
+    };
+}
+
+} // namespace bench

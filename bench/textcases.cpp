@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#include "comparison.h"
+
+#include <zelgui/zelgui.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+#include <cstring>
+
+namespace bench {
+
+namespace {
+
+constexpr Goal kNoGoal = {Goal::None, 0};
+const char *const kLine = "A line of the report that an add-on writes, about eighty characters in length.\n";
+
+struct Text
+{
+    explicit Text(bool isVisible) : dialog(isVisible)
+    {
+        id = ZelGUITextAdd(dialog.id(), 100, 100, 4000, 1000, 1, nullptr);
+        widget = object<QPlainTextEdit>(id);
+        widget->setVisible(isVisible);
+    }
+    Dialog dialog;
+    int id;
+    QPlainTextEdit *widget;
+};
+
+using Action = std::function<void(Text &, const QByteArray &)>;
+
+/// On a text of a number of characters, or empty.
+Case textCase(const char *name, Goal goal, const std::vector<int> &sizes, bool isVisible, bool isFilled,
+              const Action &library, const Action &bare)
+{
+    const auto make = [=](int size) {
+        const auto text = std::make_shared<Text>(isVisible);
+        QByteArray lines;
+        while (lines.size() < size)
+            lines += kLine;
+        const auto prepare = [=] {
+            text->widget->setPlainText(isFilled ? QString::fromUtf8(lines) : QString());
+            QApplication::processEvents();
+        };
+        return Comparison{{prepare, [=] { library(*text, lines); }}, {prepare, [=] { bare(*text, lines); }}};
+    };
+    return {name, goal, sizes, 1, make};
+}
+
+/// Appends the lines in as many calls as there are, or in pieces of a few characters without a line end.
+template <typename Append>
+void inPieces(const QByteArray &lines, int length, const Append &append)
+{
+    for (int at = 0; at + length <= lines.size(); at += length)
+        append(lines.mid(at, length));
+    QApplication::processEvents();
+}
+
+Case appending(const char *name, bool isVisible, const char *piece, const std::vector<int> &sizes)
+{
+    return textCase(
+        name, {Goal::Ratio, 1.10}, sizes, isVisible, false,
+        [=](Text &text, const QByteArray &lines) {
+            inPieces(lines, int(std::strlen(kLine)),
+                     [&](const QByteArray &) { ZelGUITextAppendString(text.id, piece); });
+        },
+        [=](Text &text, const QByteArray &lines) {
+            inPieces(lines, int(std::strlen(kLine)), [&](const QByteArray &) {
+                text.widget->moveCursor(QTextCursor::End);
+                text.widget->insertPlainText(QString::fromUtf8(piece));
+            });
+        });
+}
+
+IndexSet everyOther(int count)
+{
+    IndexSet set = ZelUtilSetAlloc(0);
+    ZelUtilSetAddRange(set, 1, LgIndex{2} * count, 2, 0);
+    return set;
+}
+
+/// A set whose members stand apart, in the text of a field; what the toolkit does with a text as long is all that a
+/// bare program has to do.
+Case writingSet()
+{
+    const auto make = [](int members) {
+        const auto dialog = std::make_shared<Dialog>();
+        const int id = ZelGUITextFieldAdd(dialog->id(), 100, 100, 2000, 130, nullptr);
+        auto *const field = object<QLineEdit>(id);
+        const std::shared_ptr<IndexSet_s> set(everyOther(members), [](IndexSet gone) { ZelUtilSetDealloc(&gone); });
+        const auto bare = [=, keep = dialog] {
+            QString text;
+            for (LgIndex member = ZelUtilSetGetNextMember(set.get(), 0); member != 0;
+                 member = ZelUtilSetGetNextMember(set.get(), member))
+                text += QString::number(member) + QLatin1Char(',');
+            field->setText(text);
+        };
+        return Comparison{{nullptr, [=, keep = dialog] { ZelGUITextFieldSetSet(id, set.get(), 1); }}, {nullptr, bare}};
+    };
+    return {"text field: write a set", {Goal::Ratio, 1.0}, {1000, 10000, 100000, 1000000}, 1, make};
+}
+
+Case readingSet()
+{
+    const auto make = [](int members) {
+        const auto dialog = std::make_shared<Dialog>();
+        const int id = ZelGUITextFieldAdd(dialog->id(), 100, 100, 2000, 130, nullptr);
+        ZelGUITextFieldSetString(id, QByteArray("1-" + QByteArray::number(2 * members) + ":2").constData());
+        const auto read = [=, keep = dialog] {
+            IndexSet set = nullptr;
+            ZelGUITextFieldGetSet(id, &set);
+            ZelUtilSetDealloc(&set);
+        };
+        const auto bare = [=] {
+            IndexSet set = everyOther(members);
+            ZelUtilSetDealloc(&set);
+        };
+        return Comparison{{nullptr, read}, {nullptr, bare}};
+    };
+    return {"text field: read a set", {Goal::Ratio, 1.10}, {10000, 100000, 1000000}, 1, make};
+}
+
+} // namespace
+
+std::vector<Case> textCases()
+{
+    const std::vector<int> toTenMegabytes = {100000, 1000000, 10000000};
+    return {
+        textCase(
+            "text: set", {Goal::Ratio, 1.05}, toTenMegabytes, false, false,
+            [](Text &text, const QByteArray &lines) { ZelGUITextSetString(text.id, lines.constData()); },
+            [](Text &text, const QByteArray &lines) { text.widget->setPlainText(QString::fromUtf8(lines)); }),
+        textCase(
+            "text: read", {Goal::Ratio, 1.10}, toTenMegabytes, false, true,
+            [](Text &text, const QByteArray &) {
+                char *copy = ZelGUITextGetString(text.id);
+                ZelUtilStringDealloc(&copy);
+            },
+            [](Text &text, const QByteArray &) {
+                const QByteArray utf8 = text.widget->toPlainText().toUtf8();
+                char *copy = ZelUtilStringAlloc(std::size_t(utf8.size()) + 1, "text");
+                std::memcpy(copy, utf8.constData(), std::size_t(utf8.size()) + 1);
+                ZelUtilStringDealloc(&copy);
+            }),
+        // A line for 79 characters: 7,900,000 are 100,000 calls.
+        appending("text: append lines", false, kLine, {79000, 790000, 7900000}),
+        appending("visible text: append lines", true, kLine, {79000, 790000, 7900000}),
+        appending("text: append to one line", false, "word ", {79000, 790000}),
+        appending("visible text: append to one line", true, "word ", {79000, 790000}),
+        writingSet(),
+        readingSet(),
+    };
+}
+
+} // namespace bench
