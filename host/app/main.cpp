@@ -18,7 +18,7 @@ namespace {
 /// Without anybody who would have to see something.
 bool isUnattended(const Options &options)
 {
-    return !options.pictureDirectory.isEmpty() || !options.scriptFile.isEmpty();
+    return drawsDialogs(options) || !options.scriptFile.isEmpty();
 }
 
 /// Sees to a platform that can start; the toolkit would abort the process. False if there is none.
@@ -27,7 +27,7 @@ bool choosePlatform(const Options &options)
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         return true;
     const bool display = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    if (options.batch || (!display && isUnattended(options))) {
+    if (options.batch || (!display && isUnattended(options)) || !options.sweepDirectory.isEmpty()) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         return true;
     }
@@ -38,6 +38,8 @@ bool choosePlatform(const Options &options)
 
 int runHost(const Options &options)
 {
+    if (!options.sweepDirectory.isEmpty())
+        return sweepLooks(options);
     Session session;
     if (!openSession(options, session))
         return Failure;
@@ -47,6 +49,8 @@ int runHost(const Options &options)
         return drawPictures(options, session);
     if (!options.scriptFile.isEmpty())
         return playScript(options, session);
+    if (!options.inspectionDirectory.isEmpty())
+        return inspectLooks(options, session);
     return runInteractively(session);
 }
 

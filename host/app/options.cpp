@@ -102,6 +102,13 @@ std::vector<Declaration> declarations()
              options.font = font(value);
              return options.font ? QString() : QStringLiteral("a font's name, a comma and a size from 0 to 1000");
          }},
+        {valued("inspect", "DIR",
+                "Like --render, for every page of tabs and forms, and tells what is wrong with how the dialogs look: "
+                "text that is cut off, widgets that overlap or leave what they stand in, controls without a name."),
+         [](Options &options, const QString &value) {
+             options.inspectionDirectory = value;
+             return value.isEmpty() ? QStringLiteral("a directory") : QString();
+         }},
         {valued("language", "LANGUAGE", "With --new-addon: C, which is meant without this option, or C++."),
          [](Options &options, const QString &value) {
              options.newAddOnLanguage = language(value);
@@ -136,9 +143,21 @@ std::vector<Declaration> declarations()
              options.scriptFile = value;
              return value.isEmpty() ? QStringLiteral("a file") : QString();
          }},
+        {valued("style", "NAME", "Draws everything in this style of the toolkit."),
+         [](Options &options, const QString &value) {
+             options.style = value;
+             return value.isEmpty() ? QStringLiteral("the name of a style") : QString();
+         }},
+        {valued("sweep", "DIR",
+                "Does what --inspect does with narrow and wide fonts of several sizes, two resolutions and all styles, "
+                "except where --font, --dpi or --style choose one, and makes a page of all pictures, DIR/index.html."),
+         [](Options &options, const QString &value) {
+             options.sweepDirectory = value;
+             return value.isEmpty() ? QStringLiteral("a directory") : QString();
+         }},
         {valued("timeout", "SECONDS",
-                "Ends the program when an entry takes longer than this with --render, or a step with --script; 20 if "
-                "not given."),
+                "Ends the program when an entry takes longer than this with --render, --inspect or --sweep, or a step "
+                "with --script; 20 if not given."),
          [](Options &options, const QString &value) {
              options.timeoutSeconds = positiveNumber(value, 1e6);
              return options.timeoutSeconds ? QString()
@@ -156,12 +175,18 @@ QString contradiction(const Options &options, const QStringList &given)
     }
     if (options.newAddOnLanguage)
         return QStringLiteral("--language has an effect only with --new-addon");
-    if (!options.pictureDirectory.isEmpty() && options.batch)
-        return QStringLiteral("--batch shows nothing that --render could draw");
-    if (options.timeoutSeconds && options.pictureDirectory.isEmpty() && options.scriptFile.isEmpty())
-        return QStringLiteral("--timeout has an effect only with --render or --script");
-    if (!options.scriptFile.isEmpty() && (options.batch || !options.pictureDirectory.isEmpty()))
-        return QStringLiteral("--script goes neither with --batch nor with --render");
+    if (drawsDialogs(options) && options.batch)
+        return QStringLiteral("--batch shows nothing that --render, --inspect or --sweep could draw");
+    const int ways = int(!options.pictureDirectory.isEmpty()) + int(!options.inspectionDirectory.isEmpty()) +
+                     int(!options.sweepDirectory.isEmpty());
+    if (ways > 1)
+        return QStringLiteral("only one of --render, --inspect and --sweep can be done at a time");
+    if (options.reportLeaks && !options.sweepDirectory.isEmpty())
+        return QStringLiteral("--report-leaks has no effect with --sweep, which runs add-ons in other processes");
+    if (options.timeoutSeconds && !drawsDialogs(options) && options.scriptFile.isEmpty())
+        return QStringLiteral("--timeout has an effect only with --render, --inspect, --sweep or --script");
+    if (!options.scriptFile.isEmpty() && (options.batch || drawsDialogs(options)))
+        return QStringLiteral("--script goes neither with --batch nor with --render, --inspect or --sweep");
     if (!options.scriptFile.isEmpty() && !options.launches.isEmpty())
         return QStringLiteral("--script leaves nothing to --launch: its steps launch");
     if (options.addOnFiles.isEmpty())
@@ -186,13 +211,19 @@ QString takeValues(const QCommandLineParser &parser, const Declaration &declarat
 
 } // namespace
 
+bool drawsDialogs(const Options &options)
+{
+    return !options.pictureDirectory.isEmpty() || !options.inspectionDirectory.isEmpty() ||
+           !options.sweepDirectory.isEmpty();
+}
+
 CommandLine readCommandLine(const QStringList &arguments, Options &options, QString &text)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
         "A host for add-ons: loads the modules ADDON and offers what they register in its menu.\n\n"
         "The exit code is 0; 1 after an error, or when time is up; 2 if a step of a script could not be done; 3 if "
-        "--report-leaks has found something."));
+        "--report-leaks has found something; 5 if --inspect or --sweep has."));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
                                      QStringLiteral("Shows the version."));

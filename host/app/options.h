@@ -33,6 +33,12 @@ struct Options
     QString pictureDirectory;
     /// The script to play; empty if there is none.
     QString scriptFile;
+    /// Of the toolkit; empty for the default one.
+    QString style;
+    /// Where pictures of all pages go and what is wrong with them; empty if they are not to be looked at.
+    QString inspectionDirectory;
+    /// The same for many fonts, resolutions and styles.
+    QString sweepDirectory;
     /// How long one entry, or one step of a script, may take.
     std::optional<double> timeoutSeconds;
     /// Where to write the project of a new add-on; empty if none is to be written.
@@ -41,6 +47,9 @@ struct Options
 };
 
 const double DefaultTimeoutSeconds = 20.0;
+
+/// Whether the host is to look at dialogs itself, which needs no display.
+bool drawsDialogs(const Options &options);
 
 enum class CommandLine { Run, Help, Version, Wrong };
 

@@ -15,6 +15,7 @@ public:
 
     /// Makes the directory if it isn't there; false if nothing can be written to it.
     bool prepare() const;
+    QString path() const { return m_directory.absolutePath(); }
     /// Saves a picture; returns its absolute file name, or nothing, after a message, if that fails.
     QString save(const QPixmap &picture, const QString &name);
 

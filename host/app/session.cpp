@@ -5,13 +5,19 @@
 #include "messages.h"
 
 #include <QApplication>
+#include <QStyleFactory>
 
 using orvane::host::AddOn;
 
 namespace {
 
-void applySettings(const Options &options)
+bool applySettings(const Options &options)
 {
+    if (!options.style.isEmpty() && !QApplication::setStyle(options.style)) {
+        const QString all = QStyleFactory::keys().join(QLatin1String(", "));
+        complain(QStringLiteral("--style %1: there is no such style; there are %2").arg(options.style, all));
+        return false;
+    }
     if (options.font) {
         QFont font(options.font->family);
         font.setPointSizeF(options.font->points);
@@ -20,6 +26,7 @@ void applySettings(const Options &options)
     if (options.dotsPerInch)
         orvane::host::overrideDotsPerInch(options.dotsPerInch->horizontal, options.dotsPerInch->vertical);
     orvane::host::setBatchModeActive(options.batch);
+    return true;
 }
 
 /// False, after a message, if something that could be called `name` is not registered.
@@ -46,7 +53,8 @@ bool appendEntries(const QString &name, const std::vector<AddOn> &registered, st
 
 bool openSession(const Options &options, Session &session)
 {
-    applySettings(options);
+    if (!applySettings(options))
+        return false;
     // Before the add-ons are loaded: they may look for it.
     if (!options.batch)
         session.window = std::make_unique<HostWindow>();

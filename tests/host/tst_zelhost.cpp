@@ -110,6 +110,12 @@ void TestZelhost::badStartIsOneLine_data()
             {s("--render"), QDir::tempPath(), s("--timeout"), s(value), silent}, {s("--timeout")});
     }
     row("timeout without pictures", {s("--timeout"), s("5"), silent}, {s("--render")});
+    row("sweep of leaks", {s("--sweep"), QDir::tempPath(), s("--report-leaks"), silent}, {s("--report-leaks")});
+    row("pictures and inspection", {s("--render"), QDir::tempPath(), s("--inspect"), QDir::tempPath(), silent},
+        {s("--render"), s("--inspect")});
+    row("batch with sweep", {s("--batch"), s("--sweep"), QDir::tempPath(), silent}, {s("--batch")});
+    row("sweep into a file", {s("--sweep"), s(NOT_A_MODULE), silent}, {s("--sweep"), s(NOT_A_MODULE)});
+    row("unknown style", {s("--style"), s("Rococo"), silent}, {s("Rococo"), s("Fusion")});
     row("batch with pictures", {s("--batch"), s("--render"), QDir::tempPath(), silent}, {s("--batch")});
 
     row("new add-on in a directory with files", {s("--new-addon"), s(MODULE_FOLDER)}, {s("not empty")});

@@ -15,5 +15,9 @@ int runInteractively(const Session &session);
 int drawPictures(const Options &options, const Session &session);
 /// Does what a script says.
 int playScript(const Options &options, const Session &session);
+/// Looks at the pages of the same dialogs, draws them too and reports what is wrong with how they look.
+int inspectLooks(const Options &options, const Session &session);
+/// Runs inspections in processes of their own, with many fonts, resolutions and styles.
+int sweepLooks(const Options &options);
 
 #endif
