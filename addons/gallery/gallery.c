@@ -129,17 +129,22 @@ static void launchBitmaps(void)
 {
     if (bitmaps == ZELGUI_INVALID_ID) {
         unsigned char disk[ICON * ICON * 3];
-        int toggle;
+        int button, toggle;
         bitmaps = makeDialog(3600, 500, "Bitmap buttons");
         drawDisk(disk, 200, 40, 40);
         ZelGUILabelAdd(bitmaps, 100, 80, "Buttons:");
-        ZelGUIBitmapButtonAdd(bitmaps, 1300, 50, 400, 180, ICON, ICON, disk, 1, 255, 0, 255, 0);
-        ZelGUIBitmapButtonAdd(bitmaps, 1800, 50, 400, 180, ICON, ICON, disk, 0, 0, 0, 0, 0);
+        /* Without a text, only its tool tip says what a button is for. */
+        button = ZelGUIBitmapButtonAdd(bitmaps, 1300, 50, 400, 180, ICON, ICON, disk, 1, 255, 0, 255, 0);
+        ZelGUISetToolTip(button, "Disk on a transparent ground");
+        button = ZelGUIBitmapButtonAdd(bitmaps, 1800, 50, 400, 180, ICON, ICON, disk, 0, 0, 0, 0, 0);
+        ZelGUISetToolTip(button, "Disk on a coloured ground");
         drawDisk(disk, 40, 120, 60);
         ZelGUILabelAdd(bitmaps, 100, 310, "Toggles:");
         toggle = ZelGUIBitmapToggleAdd(bitmaps, 1300, 280, 400, 180, ICON, ICON, disk, 1, 255, 0, 255, 0);
+        ZelGUISetToolTip(toggle, "Inlets");
         ZelGUIToggleSet(toggle, 1);
-        ZelGUIBitmapToggleAdd(bitmaps, 1800, 280, 400, 180, ICON, ICON, disk, 1, 255, 0, 255, 0);
+        toggle = ZelGUIBitmapToggleAdd(bitmaps, 1800, 280, 400, 180, ICON, ICON, disk, 1, 255, 0, 255, 0);
+        ZelGUISetToolTip(toggle, "Outlets");
     }
     launch(bitmaps);
 }
