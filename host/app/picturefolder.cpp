@@ -12,7 +12,7 @@ bool PictureFolder::prepare() const
 
 QString PictureFolder::save(const QPixmap &picture, const QString &name)
 {
-    const QString file = m_directory.absoluteFilePath(fileFor(name));
+    QString file = m_directory.absoluteFilePath(fileFor(name));
     if (picture.save(file, "PNG"))
         return file;
     complain(QStringLiteral("%1: cannot be written").arg(file));
