@@ -22,9 +22,19 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 add_link_options(LINKER:-z,relro LINKER:-z,now LINKER:-z,noexecstack)
 
 if(ZELGUI_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    set(sanitizers address,undefined,float-cast-overflow)
+    add_compile_options(
+        -fsanitize=${sanitizers} -fno-sanitize-recover=undefined,float-cast-overflow -fno-omit-frame-pointer)
     # A module finds the sanitizers' run time in the program that loads it.
-    add_link_options(-fsanitize=address,undefined)
+    add_link_options(-fsanitize=${sanitizers})
+endif()
+if(ZELGUI_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+if(ZELGUI_COVERAGE)
+    # Tests that end a process on purpose, or run side by side, must not spoil the counts.
+    add_compile_options(--coverage -fprofile-update=atomic)
+    add_link_options(--coverage)
 endif()
 
 # Strict compilation of our own sources; the toolkit's headers are exempt as system headers.

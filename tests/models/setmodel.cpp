@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <optional>
 #include <set>
 
 namespace SetModel {
@@ -17,7 +18,7 @@ const QRegularExpression &item()
     static const QRegularExpression expression(QStringLiteral(
         R"(\G[ \t]*+(?<first>[0-9]{1,10})(?![0-9]))"
         R"((?:[ \t]*-[ \t]*+(?<last>[0-9]{1,10})(?![0-9])(?:[ \t]*:[ \t]*+(?<step>[0-9]{1,10})(?![0-9]))?)?)"
-        R"((?![ \t]*[-:])[ \t]*+(?:,[ \t]*+)?)"));
+        R"([ \t]*+(?:,[ \t]*+)?)"));
     return expression;
 }
 
@@ -49,24 +50,21 @@ std::optional<Range> rangeOf(const QRegularExpressionMatch &match)
 
 } // namespace
 
-std::optional<std::vector<Range>> read(const QString &text)
+Reading read(const QString &text)
 {
     const bool hasBrackets = text.contains(QLatin1Char('['));
-    const QRegularExpression blanks(QStringLiteral("\\G[ \\t]*"));
+    static const QRegularExpression blanks(QStringLiteral("\\G[ \\t]*"));
     auto end = (hasBrackets ? opening() : blanks).match(text).capturedEnd();
-    if (end < 0)
-        return std::nullopt;
-
-    std::vector<Range> ranges;
-    while (end < text.size() && !(hasBrackets && closing().match(text, end).hasMatch())) {
+    Reading reading = {end >= 0, {}};
+    while (reading.isSet && end < text.size() && !(hasBrackets && closing().match(text, end).hasMatch())) {
         const auto match = item().match(text, end);
         const auto range = match.hasMatch() ? rangeOf(match) : std::nullopt;
-        if (!range)
-            return std::nullopt;
-        ranges.push_back(*range);
+        reading.isSet = range.has_value();
+        if (range)
+            reading.ranges.push_back(*range);
         end = match.capturedEnd();
     }
-    return ranges;
+    return reading;
 }
 
 LgIndex mentions(const std::vector<Range> &ranges)

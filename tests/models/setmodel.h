@@ -6,7 +6,6 @@
 
 #include <QString>
 
-#include <optional>
 #include <vector>
 
 /// What users may type for an index set and what is shown for one, told a second time: with regular expressions and
@@ -21,8 +20,15 @@ struct Range
     LgIndex step;
 };
 
-/// The ranges of a text, or nothing if it doesn't stand for a set.
-std::optional<std::vector<Range>> read(const QString &text);
+struct Reading
+{
+    /// Whether the text stands for a set.
+    bool isSet;
+    /// All of its ranges, or those before the place where it is wrong.
+    std::vector<Range> ranges;
+};
+
+Reading read(const QString &text);
 
 /// How often a member is named. Ten digits allow more of them than memory does.
 LgIndex mentions(const std::vector<Range> &ranges);

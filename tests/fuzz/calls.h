@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#ifndef TESTS_FUZZ_CALLS_H
+#define TESTS_FUZZ_CALLS_H
+
+#include "fuzz/arguments.h"
+
+#include <functional>
+#include <vector>
+
+/// One function of the interface, called with arguments that an input makes.
+struct Call
+{
+    const char *name;
+    std::function<void(CallContext &context)> make;
+};
+
+/// All functions of the public header. Calls that don't belong at the place, a fourth modal dialog say, do nothing.
+const std::vector<Call> &calls();
+
+/// What a modal dialog's loop does until it is over. Called again and again while a dialog is launched.
+void setModalStep(std::function<void()> step);
+
+#endif
