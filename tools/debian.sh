@@ -36,3 +36,6 @@ package_packages='git debhelper dpkg-dev lintian debootstrap'
 # What the benchmarks need besides.
 # shellcheck disable=SC2034
 bench_packages='qtbase5-dev libbenchmark-dev'
+# What ./torture needs besides.
+# shellcheck disable=SC2034
+torture_packages='valgrind'
