@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/call.h"
+#include "support/declared.h"
 #include "support/scene.h"
 #include "support/snapshot.h"
 #include "support/zeltest.h"

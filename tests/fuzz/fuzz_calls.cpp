@@ -3,7 +3,7 @@
 // go on with the same stream. With ZELGUI_FUZZ_TRACE in the environment, tells what it does.
 #include "fuzz/calls.h"
 #include "fuzz/fuzzhost.h"
-#include "support/entrypoints.h"
+#include "support/declared.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -170,8 +170,7 @@ void tst_Looks::sweepReportsWhatItCannotLookAt()
         runHost({QStringLiteral("--sweep"), directory.path(), QStringLiteral("--style"), QStringLiteral("Fusion"),
                  QStringLiteral("--font"), QStringLiteral("Sans,10"), module("silent")});
     QCOMPARE(outcome.exitCode, 1);
-    QVERIFY2(outcome.errors.contains(QLatin1String("x96 dpi and 1 more: ")),
-             qPrintable(outcome.errors));
+    QVERIFY2(outcome.errors.contains(QLatin1String("x96 dpi and 1 more: ")), qPrintable(outcome.errors));
     QVERIFY2(outcome.errors.contains(QLatin1String("\"Silent\"")), qPrintable(outcome.errors));
 }
 

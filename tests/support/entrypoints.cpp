@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "entrypoints.h"
 
+#include "declared.h"
+
 #include <zelgui/zelgui.h>
 
 #include <QFile>

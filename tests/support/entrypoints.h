@@ -79,7 +79,4 @@ struct EntryPoint
 /// All that this table has of the public header.
 const QVector<EntryPoint> &entryPoints();
 
-/// The names of all functions, as the public header declares them.
-QStringList declaredFunctions();
-
 #endif
