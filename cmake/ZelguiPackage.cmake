@@ -13,6 +13,10 @@ set(host_library_folder ${CMAKE_INSTALL_LIBDIR}/zelgui)
 install(TARGETS zelgui EXPORT zelguiTargets DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(TARGETS ${host_libraries} EXPORT zelguiTargets DESTINATION ${host_library_folder})
 install(TARGETS zelhost EXPORT zelguiTargets DESTINATION ${CMAKE_INSTALL_BINDIR})
+if(TARGET zelgui_trace)
+    # Only zelhost loads it; nobody links it.
+    install(TARGETS zelgui_trace DESTINATION ${host_library_folder})
+endif()
 install(FILES zelgui/api/zelgui.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zelgui)
 foreach(header IN ITEMS zvsdkbase/zelutil.h zvtoolbox/stringlist.h common_ui_qt/mainwindow.h
                         zvsdkdialogs_common_qt/qtdialogabstract.h zvsdkdialogs_prompt_qt/colorchooserdialog.h)

@@ -17,6 +17,8 @@ if(NOT DEFINED CMAKE_INSTALL_RPATH)
     set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}:$ORIGIN/../${CMAKE_INSTALL_LIBDIR}/zelgui")
 endif()
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+# The libraries are side by side, as they will be when installed: zelhost looks for zelgui beside the host's own.
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 
 # Once loaded, nobody can write to the tables of functions any more.
 add_link_options(LINKER:-z,relro LINKER:-z,now LINKER:-z,noexecstack)

@@ -21,7 +21,7 @@ require_packages() {
 
 # What it takes to build, and a font for the pictures.
 # shellcheck disable=SC2034
-build_packages='g++ cmake ninja-build libboost-dev qt6-base-dev fonts-dejavu-core'
+build_packages='g++ cmake ninja-build libboost-dev qt6-base-dev fonts-dejavu-core castxml python3 libffi-dev'
 
 # What the tests need besides.
 # shellcheck disable=SC2034

@@ -9,6 +9,7 @@ enum ExitCode {
     /// A step of a script could not be done.
     StepFailed = 2,
     LeaksFound = 3,
+    MisuseFound = 4,
     LookProblemsFound = 5,
 };
 

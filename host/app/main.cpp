@@ -109,5 +109,8 @@ int main(int argc, char **argv)
     // After the last window, which may hold memory until it goes. An error that was reported keeps its exit code.
     if (options.reportLeaks && reportLeaks() && exitCode == Success)
         exitCode = LeaksFound;
+    const bool isMisused = orvane::host::observer() && orvane::host::observer()->finish() > 0;
+    if (isMisused && (exitCode == Success || exitCode == LeaksFound))
+        exitCode = MisuseFound;
     return exitCode;
 }

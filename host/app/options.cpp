@@ -143,6 +143,11 @@ std::vector<Declaration> declarations()
              options.scriptFile = value;
              return value.isEmpty() ? QStringLiteral("a file") : QString();
          }},
+        {flag("strict", "Names every wrong use that the add-ons make of the interface, in a line with what to do."),
+         [](Options &options, const QString &) {
+             options.strict = true;
+             return QString();
+         }},
         {valued("style", "NAME", "Draws everything in this style of the toolkit."),
          [](Options &options, const QString &value) {
              options.style = value;
@@ -162,6 +167,11 @@ std::vector<Declaration> declarations()
              options.timeoutSeconds = positiveNumber(value, 1e6);
              return options.timeoutSeconds ? QString()
                                            : QStringLiteral("a number of seconds greater than 0, at most a million");
+         }},
+        {flag("trace", "Prints every call of the interface and every callback on the standard error."),
+         [](Options &options, const QString &) {
+             options.trace = true;
+             return QString();
          }},
     };
 }
@@ -223,7 +233,8 @@ CommandLine readCommandLine(const QStringList &arguments, Options &options, QStr
     parser.setApplicationDescription(QStringLiteral(
         "A host for add-ons: loads the modules ADDON and offers what they register in its menu.\n\n"
         "The exit code is 0; 1 after an error, or when time is up; 2 if a step of a script could not be done; 3 if "
-        "--report-leaks has found something; 5 if --inspect or --sweep has."));
+        "--report-leaks has found something; 4 if --strict has, whatever --report-leaks has found; 5 if --inspect or "
+        "--sweep has."));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
                                      QStringLiteral("Shows the version."));

@@ -27,6 +27,8 @@ struct Options
     QStringList launches;
     bool batch = false;
     bool reportLeaks = false;
+    bool trace = false;
+    bool strict = false;
     std::optional<Resolution> dotsPerInch;
     std::optional<Font> font;
     /// Where the pictures go; empty if none are to be drawn.

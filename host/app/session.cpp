@@ -2,6 +2,7 @@
 #include "session.h"
 
 #include "addonloader.h"
+#include "interfaceloader.h"
 #include "messages.h"
 
 #include <QApplication>
@@ -58,12 +59,13 @@ bool openSession(const Options &options, Session &session)
     // Before the add-ons are loaded: they may look for it.
     if (!options.batch)
         session.window = std::make_unique<HostWindow>();
-    for (const QString &file : options.addOnFiles) {
-        const QString failure = loadAddOn(file);
-        if (!failure.isEmpty()) {
-            complain(failure);
-            return false;
-        }
+    orvane::host::requestObservation({options.trace, options.strict});
+    QString failure = loadInterface(options.trace || options.strict);
+    for (int i = 0; failure.isEmpty() && i < options.addOnFiles.size(); ++i)
+        failure = loadAddOn(options.addOnFiles[i]);
+    if (!failure.isEmpty()) {
+        complain(failure);
+        return false;
     }
     session.registered = orvane::host::registeredAddOns();
     for (const QString &name : options.launches) {

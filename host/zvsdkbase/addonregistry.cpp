@@ -30,7 +30,9 @@ void ZelUtilAddOnRegister(const char *name, const char *summary, ZelUtilAddOnCal
     if (!name || !*name || !launch)
         return;
     orvane::host::guarded(false, 1, [name, summary, launch] {
-        registry().push_back({name, summary ? summary : "", launch});
+        using orvane::host::observer;
+        const ZelUtilAddOnCallback launched = observer() ? observer()->registering(name, launch) : launch;
+        registry().push_back({name, summary ? summary : "", launched});
         return true;
     });
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <zvsdkbase/boundary.h>
 #include <zvsdkbase/ledger.h>
+#include <zvsdkbase/observed.h>
 #include <zvsdkbase/zelutil.h>
 
 #include <algorithm>
@@ -96,11 +97,12 @@ struct IndexSet_s
 
 IndexSet ZelUtilSetAlloc(ZelBoolean showErrors)
 {
-    return guarded<IndexSet>(nullptr, showErrors, [] {
+    IndexSet const handle = guarded<IndexSet>(nullptr, showErrors, [] {
         auto set = std::make_unique<IndexSet_s>();
         Ledger::instance().enter(set.get(), Ledger::Set, set->bytes(), "index set");
         return set.release();
     });
+    return observeHandedOut(handle, "ZelUtilSetAlloc", __builtin_return_address(0));
 }
 
 ZelBoolean ZelUtilSetAddMember(IndexSet set, LgIndex member, ZelBoolean showErrors)
@@ -153,7 +155,11 @@ LgIndex ZelUtilSetGetNextMember(IndexSet set, LgIndex after)
 
 void ZelUtilSetDealloc(IndexSet *set)
 {
-    if (!set || !Ledger::instance().strike(*set, Ledger::Set))
+    if (!set)
+        return;
+    const bool isHeld = Ledger::instance().strike(*set, Ledger::Set);
+    observeReleased(*set, isHeld, "ZelUtilSetDealloc", __builtin_return_address(0));
+    if (!isHeld)
         return;
     delete *set;
     *set = nullptr;

@@ -59,6 +59,13 @@ bool Ledger::holds(const void *item, Kind kind)
     return true;
 }
 
+std::size_t Ledger::size(const void *item, Kind kind)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto found = m_entries.find(item);
+    return found == m_entries.end() || found->second.kind != kind ? 0 : found->second.bytes;
+}
+
 void Ledger::resize(const void *item, std::size_t bytes)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -82,6 +89,11 @@ std::vector<Unreleased> Ledger::unreleased()
 std::vector<Unreleased> unreleased()
 {
     return Ledger::instance().unreleased();
+}
+
+std::size_t heldBytes(const void *item)
+{
+    return Ledger::instance().size(item, Ledger::Text);
 }
 
 } // namespace host

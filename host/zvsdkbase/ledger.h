@@ -31,6 +31,8 @@ public:
     /// Takes an item out; false if it is not in the ledger as one of that kind. The caller that gets true owns it.
     bool strike(const void *item, Kind kind);
     bool holds(const void *item, Kind kind);
+    /// An item's size; 0 if it is not in the ledger as one of that kind.
+    std::size_t size(const void *item, Kind kind);
     /// Notes an item's present size.
     void resize(const void *item, std::size_t bytes);
 

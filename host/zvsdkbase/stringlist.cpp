@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <zvsdkbase/boundary.h>
 #include <zvsdkbase/ledger.h>
+#include <zvsdkbase/observed.h>
 #include <zvsdkbase/zelutil.h>
 
 #include <memory>
@@ -18,16 +19,21 @@ struct StringList_s
 
 StringList_s *ZelUtilStringListAlloc(void)
 {
-    return guarded<StringList_s *>(nullptr, 0, [] {
+    StringList_s *const handle = guarded<StringList_s *>(nullptr, 0, [] {
         auto list = std::make_unique<StringList_s>();
         Ledger::instance().enter(list.get(), Ledger::List, list->bytes, "string list");
         return list.release();
     });
+    return observeHandedOut(handle, "ZelUtilStringListAlloc", __builtin_return_address(0));
 }
 
 void ZelUtilStringListDealloc(StringList_s **list)
 {
-    if (!list || !Ledger::instance().strike(*list, Ledger::List))
+    if (!list)
+        return;
+    const bool isHeld = Ledger::instance().strike(*list, Ledger::List);
+    observeReleased(*list, isHeld, "ZelUtilStringListDealloc", __builtin_return_address(0));
+    if (!isHeld)
         return;
     delete *list;
     *list = nullptr;
@@ -58,5 +64,5 @@ char *ZelUtilStringListGetString(StringList_s *list, LgIndex position)
     char *copy = ZelUtilStringAlloc(string.size() + 1, "string of a string list");
     if (copy)
         string.copy(copy, string.size());
-    return copy;
+    return observeHandedOut(copy, "ZelUtilStringListGetString", __builtin_return_address(0));
 }

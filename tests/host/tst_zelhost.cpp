@@ -1,48 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "hostrun.h"
+
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 namespace {
-
-QString module(const char *name)
-{
-    return QStringLiteral(MODULE_PATTERN).arg(QLatin1String(name));
-}
-
-struct Outcome
-{
-    int exitCode = -1;
-    QStringList output;
-    QStringList errors;
-};
-
-QStringList lines(const QByteArray &text)
-{
-    return QString::fromLocal8Bit(text).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-}
-
-/// Ends `program` by itself after a minute, as a failure.
-Outcome runHost(const QStringList &arguments, const QProcessEnvironment &environment)
-{
-    QProcess host;
-    host.setProcessEnvironment(environment);
-    host.start(QStringLiteral(ZELHOST_PROGRAM), arguments);
-    Outcome outcome;
-    if (host.waitForFinished(60000) && host.exitStatus() == QProcess::NormalExit)
-        outcome.exitCode = host.exitCode();
-    outcome.output = lines(host.readAllStandardOutput());
-    outcome.errors = lines(host.readAllStandardError());
-    return outcome;
-}
-
-Outcome runHost(const QStringList &arguments)
-{
-    return runHost(arguments, QProcessEnvironment::systemEnvironment());
-}
 
 QProcessEnvironment withoutDisplay()
 {

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "hostrun.h"
+
+#include <QProcess>
+
+namespace {
+
+QStringList lines(const QByteArray &text)
+{
+    return QString::fromLocal8Bit(text).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+QString module(const char *name)
+{
+    return QStringLiteral(MODULE_PATTERN).arg(QLatin1String(name));
+}
+
+Outcome runHost(const QStringList &arguments, const QProcessEnvironment &environment)
+{
+    QProcess host;
+    host.setProcessEnvironment(environment);
+    host.start(QStringLiteral(ZELHOST_PROGRAM), arguments);
+    Outcome outcome;
+    if (host.waitForFinished(60000) && host.exitStatus() == QProcess::NormalExit)
+        outcome.exitCode = host.exitCode();
+    outcome.output = lines(host.readAllStandardOutput());
+    outcome.errors = lines(host.readAllStandardError());
+    return outcome;
+}

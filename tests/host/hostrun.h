@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#ifndef TESTS_HOST_HOSTRUN_H
+#define TESTS_HOST_HOSTRUN_H
+
+#include <QProcessEnvironment>
+#include <QStringList>
+
+/// The file of one of the add-ons in modules/ or misuse/.
+QString module(const char *name);
+
+/// How a run of zelhost has ended, and what it has written.
+struct Outcome
+{
+    int exitCode = -1;
+    QStringList output;
+    QStringList errors;
+};
+
+/// Ends zelhost by itself after a minute, as a failure.
+Outcome runHost(const QStringList &arguments,
+                const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
+
+#endif

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "hostrun.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+class TestTrace : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void linesTellTheCalls_data();
+    void linesTellTheCalls();
+    void addOnsAreNamed();
+    void layerIsLoadedOnDemandOnly_data();
+    void layerIsLoadedOnDemandOnly();
+};
+
+void TestTrace::linesTellTheCalls_data()
+{
+    QTest::addColumn<QString>("addOn");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("modal dialog that is closed")
+        << QStringLiteral(HELLO) << QStringList{QStringLiteral("--render"), QStringLiteral("%1")}
+        << QStringLiteral("hello.txt");
+    QTest::newRow("values of every kind, and an exception")
+        << module("traced") << QStringList{QStringLiteral("--launch"), QStringLiteral("Traced")}
+        << QStringLiteral("values.txt");
+}
+
+void TestTrace::linesTellTheCalls()
+{
+    QFETCH(const QString, addOn);
+    QFETCH(QStringList, options);
+    QFETCH(const QString, expected);
+    const QTemporaryDir directory;
+    options.replaceInStrings(QStringLiteral("%1"), directory.path());
+    QFile file(QStringLiteral(TRACES) + QLatin1Char('/') + expected);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList expectedLines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    const Outcome outcome = runHost(QStringList{QStringLiteral("--trace"), addOn} + options, environment);
+    for (int i = 0; i < std::max(expectedLines.size(), outcome.errors.size()); ++i)
+        QCOMPARE(outcome.errors.value(i), expectedLines.value(i));
+    QCOMPARE(outcome.exitCode, 0);
+}
+
+/// Several entries of one module, and two modules: each line is its own entry's.
+void TestTrace::addOnsAreNamed()
+{
+    const QTemporaryDir directory;
+    const Outcome outcome =
+        runHost({QStringLiteral("--trace"), QStringLiteral("--render"), directory.path(), QStringLiteral("--launch"),
+                 QStringLiteral("Toggles"), QStringLiteral("--launch"), QStringLiteral("Hello"),
+                 QStringLiteral("--launch"), QStringLiteral("Scales"), QStringLiteral(GALLERY), QStringLiteral(HELLO)});
+    QCOMPARE(outcome.exitCode, 0);
+    QStringList names;
+    for (const QString &line : outcome.errors) {
+        const QString name = line.section(QLatin1Char(':'), 0, 0);
+        if (names.isEmpty() || names.constLast() != name)
+            names.append(name);
+    }
+    QCOMPARE(names, QStringList({QStringLiteral("Toggles"), QStringLiteral("Hello"), QStringLiteral("Scales")}));
+}
+
+void TestTrace::layerIsLoadedOnDemandOnly_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<bool>("isLoaded");
+    QTest::newRow("no option") << QStringList() << false;
+    QTest::newRow("--trace") << QStringList{QStringLiteral("--trace")} << true;
+    QTest::newRow("--strict") << QStringList{QStringLiteral("--strict")} << true;
+}
+
+void TestTrace::layerIsLoadedOnDemandOnly()
+{
+    QFETCH(const QStringList, options);
+    QFETCH(const bool, isLoaded);
+    const Outcome outcome = runHost(options + QStringList{QStringLiteral("--batch"), QStringLiteral("--launch"),
+                                                          QStringLiteral("Maps"), module("maps")});
+    QCOMPARE(outcome.exitCode, 0);
+    QCOMPARE(outcome.output.contains(QLatin1String("libzelgui-trace.so")), isLoaded);
+    QVERIFY(!outcome.output.filter(QLatin1String("libzelgui.so")).isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestTrace)
+#include "tst_trace.moc"
