@@ -14,7 +14,18 @@
 namespace orvane::trace {
 
 /// What interface.ini says of a parameter. `PositionsCallback` is a callback that is told an array of positions.
-enum class Kind { Plain, Identifier, Latin1, Utf8, Format, Position, Positions, PositionsCallback, Unread };
+enum class Kind {
+    Plain,
+    Identifier,
+    Latin1,
+    Utf8,
+    Format,
+    Position,
+    PositionOrZero,
+    Positions,
+    PositionsCallback,
+    Unread
+};
 
 using ObjectTypes = std::uint32_t;
 

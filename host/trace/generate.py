@@ -10,8 +10,8 @@ import configparser
 import sys
 import xml.etree.ElementTree as ElementTree
 
-KINDS = {"latin1": "Latin1", "utf8": "Utf8", "format": "Format", "position": "Position", "positions": "Positions",
-         "unread": "Unread"}
+KINDS = {"latin1": "Latin1", "utf8": "Utf8", "format": "Format", "position": "Position",
+         "position-or-0": "PositionOrZero", "positions": "Positions", "unread": "Unread"}
 
 
 def camel(name):

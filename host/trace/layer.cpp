@@ -2,6 +2,7 @@
 #include "layer.h"
 
 #include "closure.h"
+#include "misuse.h"
 #include "tracer.h"
 
 #include <dlfcn.h>
@@ -33,12 +34,18 @@ Layer::Layer()
     const host::Observation wanted = host::requestedObservation();
     if (wanted.trace)
         m_listeners.push_back(std::make_unique<Tracer>());
+    if (wanted.strict) {
+        auto misuse = std::make_unique<Misuse>();
+        m_misuse = misuse.get();
+        m_listeners.push_back(std::move(misuse));
+    }
     host::setObserver(this);
 }
 
 void Layer::begin(Call &call)
 {
     call.addOn = m_origin.nameOfCaller(call.caller);
+    m_libraryAtWork.push_back(true);
     for (const auto &listener : m_listeners)
         listener->called(call);
 }
@@ -47,11 +54,13 @@ void Layer::end(const Call &call)
 {
     for (const auto &listener : m_listeners)
         listener->returned(call);
+    m_libraryAtWork.pop_back();
 }
 
 void Layer::enter(Run &run, const Closure &closure)
 {
     m_origin.enter(reinterpret_cast<const void *>(closure.target), closure.entry);
+    m_libraryAtWork.push_back(false);
     run.addOn = m_origin.nameOfRunning();
     run.number = ++m_runs;
     for (const auto &listener : m_listeners)
@@ -62,6 +71,7 @@ void Layer::leave(const Run &run)
 {
     for (const auto &listener : m_listeners)
         listener->left(run);
+    m_libraryAtWork.pop_back();
     m_origin.leave();
 }
 
@@ -71,13 +81,23 @@ ZelUtilAddOnCallback Layer::registering(const char *name, ZelUtilAddOnCallback l
     return closureFor(launch, false, name);
 }
 
-void Layer::handedOut(const void *, const char *, const void *) {}
+void Layer::handedOut(const void *item, const char *function, const void *caller)
+{
+    // What the library gets for itself, or for its answer, is no business of the add-on's yet.
+    const bool isAddOns = m_libraryAtWork.empty() || !m_libraryAtWork.back();
+    if (m_misuse && isAddOns)
+        m_misuse->handedOut(item, function, m_origin.nameOfCaller(caller));
+}
 
-void Layer::released(const void *, bool, const char *, const void *) {}
+void Layer::released(const void *item, bool wasHeld, const char *function, const void *caller)
+{
+    if (m_misuse)
+        m_misuse->released(item, wasHeld, function, m_origin.nameOfCaller(caller));
+}
 
 int Layer::finish()
 {
-    return 0;
+    return m_misuse ? m_misuse->finish() : 0;
 }
 
 } // namespace orvane::trace

@@ -12,6 +12,7 @@
 
 namespace orvane::trace {
 
+class Misuse;
 struct Closure;
 
 /// The library's exported function of a name.
@@ -39,6 +40,10 @@ private:
 
     Origin m_origin;
     std::vector<std::unique_ptr<Listener>> m_listeners;
+    /// One of the listeners; null unless misuse is to be named.
+    Misuse *m_misuse = nullptr;
+    /// What is going on, the innermost last: true for a call, when the library is at work.
+    std::vector<bool> m_libraryAtWork;
     int m_runs = 0;
 };
 
