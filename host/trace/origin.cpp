@@ -2,6 +2,7 @@
 #include "origin.h"
 
 #include <dlfcn.h>
+#include <sys/auxv.h>
 
 namespace orvane::trace {
 
@@ -10,7 +11,8 @@ namespace {
 struct Module
 {
     const void *base = nullptr;
-    std::string file;
+    std::string file = {};
+    std::string fileName = {};
 };
 
 Module moduleOf(const void *address)
@@ -18,7 +20,15 @@ Module moduleOf(const void *address)
     Dl_info info{};
     if (dladdr(address, &info) == 0)
         return {};
-    return {info.dli_fbase, info.dli_fname};
+    const std::string file = info.dli_fname;
+    return {info.dli_fbase, file, file.substr(file.rfind('/') + 1)};
+}
+
+/// Whether an address is in the program itself: an add-on's ZelAddOnInit has ended with a call.
+bool isProgram(const Module &module)
+{
+    static const void *const program = moduleOf(reinterpret_cast<const void *>(getauxval(AT_ENTRY))).base;
+    return module.base == program;
 }
 
 bool hasAddOnInit(const Module &module)
@@ -41,20 +51,21 @@ void Origin::add(const void *launch, const std::string &name)
 
 void Origin::enter(const void *function, const std::string &entry)
 {
-    m_running.push_back({moduleOf(function).base, entry});
+    const Module module = moduleOf(function);
+    m_running.push_back({module.base, module.fileName, entry});
 }
 
 std::string Origin::nameOfRunning() const
 {
-    return m_running.empty() ? "an add-on" : nameOf(m_running.back().module, "an add-on");
+    return m_running.empty() ? "an add-on" : nameOf(m_running.back().module, m_running.back().file);
 }
 
 std::string Origin::nameOfCaller(const void *address)
 {
     const Module module = moduleOf(address);
-    if (!isAddOn(address) && !m_running.empty())
+    if (isProgram(module) || (!isAddOn(address) && !m_running.empty()))
         return nameOfRunning();
-    return nameOf(module.base, module.file.substr(module.file.rfind('/') + 1));
+    return nameOf(module.base, module.fileName);
 }
 
 bool Origin::isAddOn(const void *address)

@@ -33,10 +33,12 @@ private:
     struct Running
     {
         Base module;
+        std::string file;
         std::string entry;
     };
 
     bool isAddOn(const void *address);
+    /// `file` where the module's entries don't tell.
     std::string nameOf(Base module, const std::string &file) const;
 
     std::map<Base, std::vector<std::string>> m_entries;

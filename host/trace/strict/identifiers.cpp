@@ -28,23 +28,30 @@ std::string remedyFor(const Parameter &parameter)
            " has returned" + (parameter.accepted & bit(ObjectType::MainWindow) ? ", or ZELGUI_MAIN_WINDOW" : "");
 }
 
+/// A type that is not accepted.
+std::string insteadOf(const Parameter &parameter, int id, ObjectType type)
+{
+    const auto name = [](const TypeText &text) { return text.name; };
+    return " " + std::to_string(id) + " is " + typeTexts[static_cast<unsigned>(type)].name + " instead of " +
+           ofTypes(parameter.accepted, " or ", name);
+}
+
 /// What is wrong with an identifier; empty if nothing is.
 std::string faultOf(const Parameter &parameter, int id, const Objects::Object *object)
 {
     if (!object) {
-        if (id == ZELGUI_MAIN_WINDOW && parameter.accepted & bit(ObjectType::MainWindow))
-            return {};
+        if (id == ZELGUI_MAIN_WINDOW)
+            return parameter.accepted & bit(ObjectType::MainWindow) ? ""
+                                                                    : insteadOf(parameter, id, ObjectType::MainWindow);
         if (id == ZELGUI_INVALID_ID)
             return " is ZELGUI_INVALID_ID, so it names nothing";
         return " " + std::to_string(id) + " names nothing that was created";
     }
-    const TypeText &type = typeTexts[static_cast<unsigned>(object->type)];
-    if (object->isDestroyed())
-        return " " + std::to_string(id) + " is " + type.name + " that was destroyed";
-    if (parameter.accepted & bit(object->type))
-        return {};
-    const auto name = [](const TypeText &text) { return text.name; };
-    return " " + std::to_string(id) + " is " + type.name + " instead of " + ofTypes(parameter.accepted, " or ", name);
+    if (object->isDestroyed()) {
+        return " " + std::to_string(id) + " is " + typeTexts[static_cast<unsigned>(object->type)].name +
+               " that was destroyed";
+    }
+    return parameter.accepted & bit(object->type) ? "" : insteadOf(parameter, id, object->type);
 }
 
 } // namespace

@@ -7,6 +7,8 @@
 #include <QStackedWidget>
 #include <QWidget>
 
+#include <tuple>
+
 namespace orvane::trace {
 
 namespace {
@@ -49,17 +51,20 @@ QRect placeOf(const QWidget *widget)
     return {widget->pos(), wanted.boundedTo(widget->maximumSize()).expandedTo(widget->minimumSize())};
 }
 
-/// By how many pixels a widget reaches beyond an edge, the worst one; empty if it is inside.
+/// By how many pixels a widget reaches beyond an edge, the worst one; empty if it is inside. What fills its parent may
+/// be a little larger: positions and sizes are rounded one by one, and a push button is a tenth higher than asked for.
 std::string excess(const QRect &room, const QRect &widget)
 {
-    const std::pair<int, const char *> edges[] = {{widget.right() - room.right(), "right"},
-                                                  {widget.bottom() - room.bottom(), "lower"},
-                                                  {room.left() - widget.left(), "left"},
-                                                  {room.top() - widget.top(), "upper"}};
+    const int across = widget.width() / 10 + 1;
+    const int down = widget.height() / 10 + 1;
+    const std::tuple<int, int, const char *> edges[] = {{widget.right() - room.right(), across, "right"},
+                                                        {widget.bottom() - room.bottom(), down, "lower"},
+                                                        {room.left() - widget.left(), across, "left"},
+                                                        {room.top() - widget.top(), down, "upper"}};
     std::pair<int, const char *> worst = {0, ""};
-    for (const auto &edge : edges) {
-        if (edge.first > worst.first)
-            worst = edge;
+    for (const auto &[pixels, tolerated, name] : edges) {
+        if (pixels > tolerated && pixels > worst.first)
+            worst = {pixels, name};
     }
     return worst.first == 0 ? "" : std::to_string(worst.first) + " pixels beyond the " + worst.second + " edge";
 }
@@ -98,8 +103,8 @@ void Placing::check(const Objects::Object &object)
     const std::string beyond = excess(roomOf(widget->parentWidget()), placeOf(widget));
     if (!beyond.empty()) {
         m_faults.add(object.addOn, object.creator,
-                     typeTexts[static_cast<unsigned>(object.type)].name + (" " + std::to_string(object.id)) +
-                         " reaches " + beyond + " of " + std::to_string(object.parentId) + ", which it is in",
+                     std::to_string(object.id) + " reaches " + beyond + " of " + std::to_string(object.parentId) +
+                         ", which it is in",
                      "place it elsewhere, or make room for it");
     }
 }
