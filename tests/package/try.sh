@@ -53,3 +53,9 @@ cp -r "$folder/new in C" "$folder/before"
 ! "$installed/bin/zelhost" --new-addon "$folder/new in C" 2>"$folder/log" || fail "A project was overwritten."
 grep -q "not empty" "$folder/log" || fail "The reason isn't told."
 diff -r "$folder/before" "$folder/new in C"
+
+# The layer is found in its new place too, if it was built.
+if [ -n "$(find "$installed" -name libzelgui-trace.so)" ]; then
+    "$installed/bin/zelhost" --strict --trace --render "$folder" "$folder/hello.so" 2>"$folder/trace"
+    grep -q '^Hello:   ZelGUIDialogLaunch(0)$' "$folder/trace"
+fi
