@@ -6,7 +6,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -19,7 +18,6 @@ class tst_Containers : public ZelTest
 
 private Q_SLOTS:
     void formShowsOnePage();
-    void formIgnoresWhatIsNoPage();
     void tabGeometry();
     void tabReports();
     void tabReportsAfterSwitchByTheAddOn();
@@ -73,19 +71,6 @@ void tst_Containers::formShowsOnePage()
         QCOMPARE(object<QWidget>(pages[i])->isVisible(), i == 2);
 }
 
-void tst_Containers::formIgnoresWhatIsNoPage()
-{
-    const int tab = launchTabs();
-    const int form = ZelGUIFormAdd(createModal(), 100, 100, 2000, 500);
-    ZelGUIFormAddPage(form);
-    const int button = ZelGUIButtonAdd(form, 100, 100, 500, 100, "in the form, on no page", nullptr);
-    ZelGUIFormSetCurrentPage(button);
-    QCOMPARE(object<QStackedWidget>(form)->currentIndex(), 0);
-    // A page of tabs is in a stack as well, but that is the tabs' own.
-    ZelGUIFormSetCurrentPage(tab + 2);
-    QCOMPARE(object<QTabWidget>(tab)->currentIndex(), 0);
-}
-
 void tst_Containers::tabGeometry()
 {
     const int dialog = createModal();
@@ -123,9 +108,6 @@ void tst_Containers::tabReportsAfterSwitchByTheAddOn()
     ZelGUITabSetCurrentPage(second, second + 2);
     clickTab(second, 1);
     QCOMPARE(log().size(), 2);
-    for (const int page : {first + 1, -2, second})
-        ZelGUITabSetCurrentPage(second, page);
-    QCOMPARE(object<QTabWidget>(second)->currentIndex(), 0);
 }
 
 void tst_Containers::tabWithOnePage()

@@ -78,6 +78,8 @@ bool changeOwnValue(Play &play)
 
 bool deleteItems(Play &play)
 {
+    // The list's last item is its current one.
+    ZelGUIListDeleteItemAtPos(play.sender, ZelGUIListGetItemCount(play.sender));
     ZelGUIListDeleteAllItems(play.sender);
     ZelGUIOptionMenuDeleteAllItems(play.sender);
     ZelGUIMenuDeleteItem(play.sender);

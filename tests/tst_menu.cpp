@@ -22,10 +22,8 @@ private Q_SLOTS:
     void keyboard_data();
     void keyboard();
     void deletedItem();
-    void deletedInItsCallback();
     void setToggle();
     void setToggleInCallback();
-    void dropInCallback();
 
 private:
     void clickTitle(int place);
@@ -81,10 +79,6 @@ void tst_Menu::identifiers()
     const auto entries = object<QMenu>(m_file)->actions();
     QCOMPARE(entries.size(), 3);
     QVERIFY(entries[1]->isSeparator());
-    // Items can't stand in the bar itself.
-    QCOMPARE(ZelGUIMenuAddItem(bar, "Item", nullptr, nullptr), -2);
-    QCOMPARE(ZelGUIMenuAddToggle(bar, "Toggle", nullptr, nullptr), -2);
-    QCOMPARE(m_bar->actions().size(), 2);
 }
 
 void tst_Menu::texts()
@@ -97,11 +91,6 @@ void tst_Menu::texts()
     ZelGUIMenuItemSetText(m_item, "\xD6"
                                   "ffnen");
     QCOMPARE(object<QAction>(m_item)->text(), QString::fromUtf8("Öffnen"));
-    ZelGUIMenuItemSetText(m_item, nullptr);
-    QCOMPARE(object<QAction>(m_item)->text(), QString());
-    // The title of a menu is no item's text.
-    ZelGUIMenuItemSetText(m_file, "Item");
-    QCOMPARE(object<QMenu>(m_file)->title(), QStringLiteral("&File"));
 }
 
 void tst_Menu::mouse()
@@ -159,7 +148,6 @@ void tst_Menu::deletedItem()
 {
     ZelGUIMenuDeleteItem(m_item);
     ZelGUIMenuDeleteItem(m_item);
-    ZelGUIMenuDeleteItem(m_file);
     ZelGUIMenuDeleteItem(m_toggle);
     QCOMPARE(object<QMenu>(m_file)->actions().size(), 1);
     QCOMPARE(m_bar->actions().size(), 2);
@@ -170,15 +158,6 @@ void tst_Menu::deletedItem()
     QCOMPARE(log(), QStringList({"MenuToggle 1"}));
 }
 
-void tst_Menu::deletedInItsCallback()
-{
-    action(MenuItem) = [this] { ZelGUIMenuDeleteItem(m_item); };
-    clickTitle(0);
-    clickEntry(object<QMenu>(m_file), 0);
-    QCOMPARE(log(), QStringList({"MenuItem"}));
-    QCOMPARE(object<QMenu>(m_file)->actions().size(), 2);
-}
-
 void tst_Menu::setToggle()
 {
     ZelGUIMenuSetToggle(m_toggle, 1);
@@ -187,10 +166,6 @@ void tst_Menu::setToggle()
     ZelGUIMenuSetToggle(m_toggle, 2);
     ZelGUIMenuSetToggle(m_toggle, 0);
     QCOMPARE(log(), QStringList({"MenuToggle 1", "MenuToggle 0"}));
-    // An item has nothing to check.
-    ZelGUIMenuSetToggle(m_item, 1);
-    QVERIFY(!object<QAction>(m_item)->isChecked());
-    QCOMPARE(log().size(), 2);
 }
 
 void tst_Menu::setToggleInCallback()
@@ -201,20 +176,6 @@ void tst_Menu::setToggleInCallback()
         clickEntry(object<QMenu>(m_file), 2);
     }
     QCOMPARE(log(), QStringList({"MenuToggle 1", "MenuToggle 0", "MenuToggle 1", "MenuToggle 0"}));
-}
-
-void tst_Menu::dropInCallback()
-{
-    action(MenuItem) = [this] { ZelGUIDialogDrop(m_dialog); };
-    QTest::keyClick(object<QWidget>(m_dialog), Qt::Key_F, Qt::AltModifier);
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_O);
-    QCOMPARE(ZelGUIDialogIsUp(m_dialog), ZelBoolean{0});
-    action(MenuItem) = nullptr;
-    ZelGUIDialogLaunch(m_dialog);
-    QVERIFY(waitUntilActive(object<QWidget>(m_dialog)));
-    QTest::keyClick(object<QWidget>(m_dialog), Qt::Key_F, Qt::AltModifier);
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_O);
-    QCOMPARE(log(), QStringList({"MenuItem", "Init", "MenuItem"}));
 }
 
 ZELTEST_MAIN(tst_Menu)

@@ -11,10 +11,7 @@ namespace {
 
 QString itemText(int id, int position)
 {
-    char *text = ZelGUIOptionMenuGetString(id, position);
-    const QString result = QString::fromUtf8(text);
-    ZelUtilStringDealloc(&text);
-    return result;
+    return QString::fromUtf8(ZelTest::taken(ZelGUIOptionMenuGetString(id, position)));
 }
 
 } // namespace

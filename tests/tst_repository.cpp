@@ -7,7 +7,6 @@
 #include <QPushButton>
 
 #include <new>
-#include <stdexcept>
 
 using namespace Callback;
 
@@ -24,7 +23,6 @@ class tst_Repository : public ZelTest
 
 private Q_SLOTS:
     void identifiersCountUpAcrossKinds();
-    void destroyedObjectsAreNotFound();
     void callbackMayThrow();
     void hostMayThrow();
 };
@@ -49,34 +47,9 @@ void tst_Repository::identifiersCountUpAcrossKinds()
     QCOMPARE(object<QLabel>(2)->parent(), object<QDialog>(0));
 }
 
-void tst_Repository::destroyedObjectsAreNotFound()
-{
-    const int dialog = createModal();
-    const int toggle = ZelGUIToggleAdd(dialog, 100, 100, 1000, 100, "Toggle", nullptr);
-    ZelGUIToggleSet(toggle, 1);
-    QCOMPARE(ZelGUIToggleGet(toggle), 1);
-    delete object<QDialog>(dialog);
-
-    QCOMPARE(ZelGUIToggleGet(toggle), 0);
-    ZelGUIToggleSet(toggle, 1);
-    ZelGUIDialogLaunch(dialog);
-    QCOMPARE(ZelGUIDialogIsUp(dialog), 0);
-    QCOMPARE(ZelGUILabelAdd(dialog, 100, 100, "Label"), -2);
-    const int next = createModal();
-    QCOMPARE(next, toggle + 1);
-}
-
 void tst_Repository::callbackMayThrow()
 {
     const int dialog = launchModeless();
-    const int button = ZelGUIButtonAdd(dialog, 100, 100, 1000, 100, "Button", report<Push>);
-    action(Push) = [] { throw std::runtime_error("an add-on's own"); };
-    QPushButton *const widget = object<QPushButton>(button);
-    widget->show();
-    QTest::mouseClick(widget, Qt::LeftButton);
-    QTest::mouseClick(widget, Qt::LeftButton);
-    QCOMPARE(log(), QStringList({"Push", "Push"}));
-
     // A drop asked for before the exception still counts.
     action(Close) = [dialog] {
         ZelGUIDialogDrop(dialog);

@@ -45,7 +45,6 @@ private Q_SLOTS:
     void writing_data();
     void writing();
     void longRangesAndManyMembers();
-    void spinTextFieldHasNoSet();
 
 private:
     int m_field = -2;
@@ -183,15 +182,6 @@ void tst_SetString::longRangesAndManyMembers()
     QCOMPARE(ZelGUITextFieldGetSet(m_field, &set), 1);
     QCOMPARE(membersOf(set).size(), 100000);
     ZelUtilSetDealloc(&set);
-}
-
-void tst_SetString::spinTextFieldHasNoSet()
-{
-    const int spin = ZelGUISpinTextFieldAdd(createModal(), 100, 100, 1000, 100, nullptr, nullptr, nullptr);
-    ZelGUITextFieldSetString(spin, "1-3");
-    IndexSet set = nullptr;
-    QCOMPARE(ZelGUITextFieldGetSet(spin, &set), 0);
-    QVERIFY(!set);
 }
 
 ZELTEST_MAIN(tst_SetString)

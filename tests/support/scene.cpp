@@ -39,6 +39,7 @@ QVector<SceneObject> makeEveryKind(int parent)
     const int form = add("form", ZelGUIFormAdd(dialog, 2300, 100, 600, 500));
     ZelGUIFormAddPage(form);
     add("form page", ZelGUIFormAddPage(form));
+    add("widget in a form, on no page", ZelGUIButtonAdd(form, 100, 100, 300, 100, "", nullptr));
     const int tab = add("tab", ZelGUITabAdd(dialog, 2300, 900, 600, 500, nullptr, nullptr));
     ZelGUITabAddPage(tab, "One");
     add("tab page", ZelGUITabAddPage(tab, "Two"));

@@ -151,3 +151,10 @@ void ZelTest::whenModal(int dialogId, std::function<void()> step)
     });
     timer->start(1);
 }
+
+QByteArray ZelTest::taken(char *text)
+{
+    const QByteArray result(text);
+    ZelUtilStringDealloc(&text);
+    return result;
+}

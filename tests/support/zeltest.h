@@ -121,6 +121,9 @@ public:
     /// The button box's button with that text, mnemonics aside.
     static QAbstractButton *boxButton(QWidget *dialog, const QString &text);
 
+    /// A text that the library has handed out, which is released.
+    static QByteArray taken(char *text);
+
     /// Runs `step` when the dialog is the active modal one, inside the loop of its launch.
     void whenModal(int dialogId, std::function<void()> step);
 
