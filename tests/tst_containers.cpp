@@ -69,6 +69,15 @@ void tst_Containers::formShowsOnePage()
     ZelGUIFormSetCurrentPage(pages[2]);
     for (int i = 0; i < 3; ++i)
         QCOMPARE(object<QWidget>(pages[i])->isVisible(), i == 2);
+
+    // A field loses the focus with its page, by the add-on's doing.
+    QVERIFY(waitUntilActive(object<QWidget>(dialog)));
+    auto *const field = shown<QWidget>(ZelGUITextFieldAdd(pages[2], 1, 1, 1000, 100, reportText<Text>));
+    field->setFocus();
+    QVERIFY(field->hasFocus());
+    ZelGUIFormSetCurrentPage(pages[0]);
+    QVERIFY(!field->hasFocus());
+    QCOMPARE(log(), QStringList({"Init"}));
 }
 
 void tst_Containers::tabGeometry()

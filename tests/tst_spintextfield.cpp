@@ -54,6 +54,12 @@ void tst_SpinTextField::stepsAreReported()
     action(Up) = [id] { ZelGUITextFieldSetString(id, "stepped"); };
     QTest::keyClick(spin, Qt::Key_Up);
     QCOMPARE(textOf(id), QString("stepped"));
+
+    // Silent, too, is what a host makes of a change by the add-on.
+    log().clear();
+    connect(spin->findChild<QLineEdit *>(), &QLineEdit::textChanged, spin, [spin] { spin->stepBy(1); });
+    ZelGUITextFieldSetString(id, "set");
+    QCOMPARE(log(), QStringList());
 }
 
 void tst_SpinTextField::stepDouble_data()

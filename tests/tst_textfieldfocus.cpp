@@ -39,6 +39,8 @@ private Q_SLOTS:
     void popups();
     void otherWindow_data() { kinds(); }
     void otherWindow();
+    void rejectedTextIsEditedBeforeOtherWindow_data() { kinds(); }
+    void rejectedTextIsEditedBeforeOtherWindow();
 
 private:
     static void kinds();
@@ -303,6 +305,22 @@ void tst_TextFieldFocus::otherWindow()
     QVERIFY(hasFocus());
     QTest::keyClick(m_widget, Qt::Key_Tab);
     QCOMPARE(log(), QStringList({"Text bad", "Text bad"}));
+}
+
+// A rejected text that keeps the field is not reported again, unless it has become another.
+void tst_TextFieldFocus::rejectedTextIsEditedBeforeOtherWindow()
+{
+    open();
+    answer(Text) = 0;
+    QTest::keyClick(m_widget, Qt::Key_Return);
+    for (const char *const typed : {"", "x"}) {
+        QTest::keyClicks(m_widget, QString::fromLatin1(typed));
+        mainWindow()->activateWindow();
+        QVERIFY(waitUntilActive(mainWindow()));
+        QCOMPARE(log(), *typed ? QStringList({"Text bad", "Text x"}) : QStringList({"Text bad"}));
+        m_window->activateWindow();
+        QVERIFY(waitUntilActive(m_window));
+    }
 }
 
 ZELTEST_MAIN(tst_TextFieldFocus)
