@@ -205,7 +205,7 @@ void addValueTriggers(QVector<Trigger> &all)
                        kDown});
     addWidgetTriggers(all, "scale", Scale, [=](int dialog) { return addScale(dialog, reportInt<Scale>, nullptr); },
                       {key("Right", Qt::Key_Right),
-                       clickAt("clicked", [](QWidget *scale) { return Place(scale, QPoint(50, 5)); }),
+                       clickAt("clicked", [](QWidget *scale) { return Place(scale, QPoint(50, scale->height() / 2)); }),
                        wheel("wheel", 120), kDrag});
     all.append({"scale, made", Drag, [=](Scene &scene) { addScale(scene.dialog, nullptr, reportInt<Drag>); }});
     addWidgetTriggers(all, "drag of a scale", Drag,
