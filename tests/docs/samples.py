@@ -35,7 +35,6 @@ class Page:
         self.environment = dict(
             os.environ,
             PATH=f"{installed}/bin:{os.environ['PATH']}",
-            CMAKE_PREFIX_PATH=str(installed),
             PKG_CONFIG_PATH=":".join(str(file.parent) for file in installed.rglob("zelgui.pc")),
             QT_QPA_PLATFORM="offscreen",
         )
