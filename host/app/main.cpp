@@ -51,7 +51,7 @@ int runHost(const Options &options)
         return playScript(options, session);
     if (!options.inspectionDirectory.isEmpty())
         return inspectLooks(options, session);
-    return runInteractively(session);
+    return runInteractively(options, session);
 }
 
 bool reportLeaks()

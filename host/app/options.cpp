@@ -126,6 +126,11 @@ std::vector<Declaration> declarations()
              options.newAddOnDirectory = value;
              return value.isEmpty() ? QStringLiteral("a directory") : QString();
          }},
+        {valued("record", "FILE", "Writes what the user does into FILE, a script for --script."),
+         [](Options &options, const QString &value) {
+             options.recordFile = value;
+             return value.isEmpty() ? QStringLiteral("a file") : QString();
+         }},
         {valued("render", "DIR",
                 "Launches every entry, or those of --launch, saves a picture of its dialog in DIR and ends. Needs no "
                 "display."),
@@ -197,6 +202,8 @@ QString contradiction(const Options &options, const QStringList &given)
         return QStringLiteral("--timeout has an effect only with --render, --inspect, --sweep or --script");
     if (!options.scriptFile.isEmpty() && (options.batch || drawsDialogs(options)))
         return QStringLiteral("--script goes neither with --batch nor with --render, --inspect or --sweep");
+    if (!options.recordFile.isEmpty() && (options.batch || drawsDialogs(options)))
+        return QStringLiteral("--record goes neither with --batch nor with --render, --inspect or --sweep");
     if (!options.scriptFile.isEmpty() && !options.launches.isEmpty())
         return QStringLiteral("--script leaves nothing to --launch: its steps launch");
     if (options.addOnFiles.isEmpty())

@@ -41,6 +41,8 @@ struct Options
     QString inspectionDirectory;
     /// The same for many fonts, resolutions and styles.
     QString sweepDirectory;
+    /// Where what the user does is written to; empty if it is not.
+    QString recordFile;
     /// How long one entry, or one step of a script, may take.
     std::optional<double> timeoutSeconds;
     /// Where to write the project of a new add-on; empty if none is to be written.

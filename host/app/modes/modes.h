@@ -10,7 +10,7 @@
 /// Without a window, as if there were no user: launches what is chosen.
 int runInBatch(const Session &session);
 /// With the user, after launching what is chosen.
-int runInteractively(const Session &session);
+int runInteractively(const Options &options, const Session &session);
 /// Saves pictures of the dialogs of what is chosen, or of all.
 int drawPictures(const Options &options, const Session &session);
 /// Does what a script says.

@@ -5,6 +5,7 @@
 #include "../messages.h"
 #include "../script/language.h"
 #include "../script/player.h"
+#include "recording.h"
 
 #include <QFile>
 
@@ -21,11 +22,16 @@ int playScript(const Options &options, const Session &session)
         complain(QStringLiteral("%1:%2").arg(options.scriptFile, failure));
         return Failure;
     }
+    std::unique_ptr<Recorder> recorder;
+    if (!startRecording(options, session, recorder))
+        return Failure;
     Windows windows(*session.window);
     Stage stage;
     stage.windows = &windows;
     stage.mainWindow = session.window.get();
     stage.addOns = session.registered;
+    if (recorder)
+        stage.launched = [&recorder](const QString &name, int number) { recorder->noteLaunch(name, number); };
     Player player(options.scriptFile, std::move(steps), std::move(stage),
                   options.timeoutSeconds.value_or(DefaultTimeoutSeconds));
     return player.run();

@@ -43,6 +43,8 @@ QString launch(Stage &stage, const Step &step)
     if (number < 1 || number > static_cast<int>(found.size()) || (!hasNumber && found.size() > 1))
         return QStringLiteral("%1 entries have this name; a number behind it, from 1, says which").arg(found.size());
     stage.isLaunching = true;
+    if (stage.launched)
+        stage.launched(step.words[0].text, number);
     found[static_cast<std::size_t>(number) - 1].launch();
     return {};
 }

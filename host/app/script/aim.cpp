@@ -40,6 +40,18 @@ QRect part(const QSlider &slider, QStyle::SubControl control)
     return slider.style()->subControlRect(QStyle::CC_Slider, &option, control, &slider);
 }
 
+QRect arrowRect(const QAbstractSpinBox &spin, bool up)
+{
+    QStyleOptionSpinBox option;
+    option.initFrom(&spin);
+    option.frame = spin.hasFrame();
+    option.buttonSymbols = spin.buttonSymbols();
+    option.subControls = QStyle::SC_All;
+    option.stepEnabled = QAbstractSpinBox::StepUpEnabled | QAbstractSpinBox::StepDownEnabled;
+    const QStyle::SubControl arrow = up ? QStyle::SC_SpinBoxUp : QStyle::SC_SpinBoxDown;
+    return spin.style()->subControlRect(QStyle::CC_SpinBox, &option, arrow, &spin);
+}
+
 } // namespace
 
 QPoint clickPoint(const QWidget &widget)
@@ -51,19 +63,22 @@ QPoint clickPoint(const QWidget &widget)
         return widget.style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, &widget).center();
     if (qobject_cast<const QRadioButton *>(&widget))
         return widget.style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, &widget).center();
+    // Anywhere else on a scale would move it.
+    if (const auto *const slider = qobject_cast<const QSlider *>(&widget))
+        return handleRect(*slider).center();
     return widget.rect().center();
 }
 
 QPoint arrowPoint(const QAbstractSpinBox &spin, bool up)
 {
-    QStyleOptionSpinBox option;
-    option.initFrom(&spin);
-    option.frame = spin.hasFrame();
-    option.buttonSymbols = spin.buttonSymbols();
-    option.subControls = QStyle::SC_All;
-    option.stepEnabled = QAbstractSpinBox::StepUpEnabled | QAbstractSpinBox::StepDownEnabled;
-    const QStyle::SubControl arrow = up ? QStyle::SC_SpinBoxUp : QStyle::SC_SpinBoxDown;
-    return spin.style()->subControlRect(QStyle::CC_SpinBox, &option, arrow, &spin).center();
+    return arrowRect(spin, up).center();
+}
+
+int arrowAt(const QAbstractSpinBox &spin, const QPoint &position)
+{
+    if (arrowRect(spin, true).contains(position))
+        return 1;
+    return arrowRect(spin, false).contains(position) ? -1 : 0;
 }
 
 QRect handleRect(const QSlider &slider)

@@ -9,6 +9,8 @@
 
 QPoint clickPoint(const QWidget &widget);
 
+/// 1 for the upper arrow, -1 for the lower one, 0 elsewhere.
+int arrowAt(const QAbstractSpinBox &spin, const QPoint &position);
 QPoint arrowPoint(const QAbstractSpinBox &spin, bool up);
 
 QRect handleRect(const QSlider &slider);

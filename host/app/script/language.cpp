@@ -28,6 +28,7 @@ const Form Forms[] = {
     {Action::Insert, "insert NAME TEXT"},
     {Action::Cursor, "cursor NAME NUMBER NUMBER [NUMBER...]"},
     {Action::SelectAll, "select NAME all"},
+    {Action::SelectNone, "select NAME none"},
     {Action::SelectRange, "select NAME ITEM to ITEM"},
     {Action::Select, "select NAME ITEM..."},
     {Action::Add, "add NAME ITEM..."},

@@ -14,6 +14,8 @@ struct Stage
     Windows *windows = nullptr;
     QWidget *mainWindow = nullptr;
     std::vector<orvane::host::AddOn> addOns;
+    /// If set: told of a launch before it happens; the number counts entries of the same name.
+    std::function<void(const QString &name, int number)> launched;
     Hands hands;
     /// Those that a step has launched or expected. Steps touch no others.
     std::vector<QPointer<QWidget>> expected;

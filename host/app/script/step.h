@@ -16,6 +16,7 @@ enum class Action {
     Insert,
     Cursor,
     SelectAll,
+    SelectNone,
     SelectRange,
     Select,
     Add,

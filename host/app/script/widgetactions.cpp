@@ -191,6 +191,15 @@ std::vector<int> rowsOf(const Step &step, const QListView &list, QString &failur
     return rows;
 }
 
+QString clickBesideRows(Stage &stage, QListView &list)
+{
+    const QRect all = list.viewport()->rect();
+    const QPoint corner = all.bottomRight() - QPoint(1, 1);
+    if (list.indexAt(corner).isValid())
+        return QStringLiteral("there is no room below the items that could be clicked");
+    return clickOn(stage, list.viewport(), corner);
+}
+
 QString notInState(const Step &step, const QListView &list, const std::vector<int> &rows)
 {
     const bool isToBeSelected = step.action == Action::Deselect;
@@ -209,6 +218,8 @@ QString selectRows(Stage &stage, const Step &step)
     auto *const list = target<QListView>(stage, step, Kinds::List, failure);
     if (!list)
         return failure;
+    if (step.action == Action::SelectNone)
+        return clickBesideRows(stage, *list);
     const bool takesOne = list->selectionMode() == QAbstractItemView::SingleSelection;
     if (takesOne && (step.action != Action::Select || step.words.size() > 2))
         return QStringLiteral("in this list, only one item can be selected");
