@@ -128,7 +128,7 @@ QString advice(const Word &verb)
         if (formVerb == verb.text)
             usages.append(pattern);
     }
-    if (usages.isEmpty())
+    if (usages.isEmpty() || verb.isQuoted)
         return QStringLiteral("there is no step %1%2").arg(verb.written(), whatThereIs(verb.text, verbs));
     return QStringLiteral("expected: %1").arg(usages.join(QLatin1String("; ")));
 }

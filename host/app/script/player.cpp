@@ -4,9 +4,12 @@
 #include "../exitcodes.h"
 #include "../messages.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QThread>
 #include <QTimerEvent>
+
+#include <algorithm>
 
 namespace {
 
@@ -22,6 +25,13 @@ const double UsualPatienceSeconds = 3.0;
 int runningEventLoops()
 {
     return QThread::currentThread()->loopLevel();
+}
+
+/// A key that stands for a button presses it for a moment before it counts.
+bool isButtonDown(const QWidget &window)
+{
+    const auto buttons = window.findChildren<QAbstractButton *>();
+    return std::any_of(buttons.begin(), buttons.end(), [](const QAbstractButton *button) { return button->isDown(); });
 }
 
 double secondsSince(const QElapsedTimer &start)
@@ -109,10 +119,11 @@ bool Player::isSettled()
         m_quietPolls = 0;
     }
     ++m_quietPolls;
-    const bool isReady = !top || top->isActiveWindow() || QApplication::activePopupWidget();
+    const bool isActive = !top || top->isActiveWindow() || QApplication::activePopupWidget();
+    const bool isReady = isActive && !(top && isButtonDown(*top));
     if (isReady)
         return m_quietPolls >= NeededQuietPolls;
-    if (m_quietPolls == PollsBeforeActivation)
+    if (!isActive && m_quietPolls == PollsBeforeActivation)
         top->activateWindow();
     // Where windows are never activated, events reach them all the same.
     return m_quietPolls > PollsWithoutActivation;
