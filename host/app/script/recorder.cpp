@@ -61,6 +61,21 @@ bool isModifierKey(int key)
            key == 0;
 }
 
+/// The entry that a letter chooses; null if there are several, among which it only moves.
+const QAction *entryOfLetter(const QMenu &menu, const QString &letter)
+{
+    const QAction *found = nullptr;
+    for (const QAction *const entry : menu.actions()) {
+        const QKeySequence mnemonic = QKeySequence::mnemonic(entry->text());
+        if (letter.isEmpty() || mnemonic != QKeySequence(QLatin1String("Alt+") + letter) || !entry->isVisible())
+            continue;
+        if (found)
+            return nullptr;
+        found = entry;
+    }
+    return found;
+}
+
 QString placeOf(const QPlainTextEdit &text, int position)
 {
     const QTextBlock block = text.document()->findBlock(position);
@@ -290,7 +305,7 @@ void Recorder::keyPressed(QWidget *widget, const QKeyEvent &event)
 {
     if (const auto *const menu = qobject_cast<QMenu *>(widget)) {
         const bool isChoice = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-        if (const QAction *const entry = isChoice ? menu->activeAction() : nullptr)
+        if (const QAction *const entry = isChoice ? menu->activeAction() : entryOfLetter(*menu, event.text()))
             chooseMenuEntry(entry);
         return;
     }
