@@ -423,8 +423,8 @@ void Recorder::writeKey(QWidget *window, const QString &text)
 void Recorder::flush()
 {
     if (m_openMenu && !m_openMenu->view()->isVisible()) {
-        const QPointer<QComboBox> menu = m_openMenu;
-        m_openMenu = nullptr;
+        QComboBox *const menu = m_openMenu;
+        m_openMenu.clear();
         const QString name = nameFor(*menu, *menu->window(), Kinds::Control);
         m_transcript.insert(m_menuPlace, QStringLiteral("click %1").arg(name));
         if (m_wasOpened)
