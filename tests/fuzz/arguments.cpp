@@ -25,7 +25,7 @@ Picture readPicture(CallContext &context)
 
 } // namespace
 
-Argument<IndexSet>::Argument(CallContext &context)
+DecodedArgument<IndexSet>::DecodedArgument(CallContext &context)
 {
     const int count = context.input.byte() % 16;
     if (count == 1)
@@ -35,7 +35,7 @@ Argument<IndexSet>::Argument(CallContext &context)
         ZelUtilSetAddMember(m_set, context.input.number<LgIndex>(), 0);
 }
 
-Argument<StringList_s *>::Argument(CallContext &context)
+DecodedArgument<StringList_s *>::DecodedArgument(CallContext &context)
 {
     const int count = context.input.byte() % 16;
     if (count == 1)
@@ -45,6 +45,6 @@ Argument<StringList_s *>::Argument(CallContext &context)
         ZelUtilStringListAppendString(m_list, context.input.text().c_str());
 }
 
-Argument<Positions>::Argument(CallContext &context) : PlainArgument({readPositions(context)}) {}
+DecodedArgument<Positions>::DecodedArgument(CallContext &context) : PlainArgument({readPositions(context)}) {}
 
-Argument<Picture>::Argument(CallContext &context) : PlainArgument(readPicture(context)) {}
+DecodedArgument<Picture>::DecodedArgument(CallContext &context) : PlainArgument(readPicture(context)) {}

@@ -25,13 +25,13 @@ ZelGUITextCallback anyTextCallback(FuzzInput &input);
 
 /// An argument of that type, made of bytes, and released behind the call.
 template <typename T>
-class Argument;
+class DecodedArgument;
 
 template <>
-class Argument<int>
+class DecodedArgument<int>
 {
 public:
-    explicit Argument(CallContext &context)
+    explicit DecodedArgument(CallContext &context)
     {
         constexpr int kObjects = 48;
         const std::uint8_t choice = context.input.byte();
@@ -55,52 +55,52 @@ private:
 };
 
 template <>
-class Argument<unsigned char> : public PlainArgument<unsigned char>
+class DecodedArgument<unsigned char> : public PlainArgument<unsigned char>
 {
 public:
-    explicit Argument(CallContext &context) : PlainArgument(context.input.byte()) {}
+    explicit DecodedArgument(CallContext &context) : PlainArgument(context.input.byte()) {}
 };
 
 template <>
-class Argument<double> : public PlainArgument<double>
+class DecodedArgument<double> : public PlainArgument<double>
 {
 public:
-    explicit Argument(CallContext &context) : PlainArgument(context.input.number<double>()) {}
+    explicit DecodedArgument(CallContext &context) : PlainArgument(context.input.number<double>()) {}
 };
 
 template <>
-class Argument<LgIndex> : public PlainArgument<LgIndex>
+class DecodedArgument<LgIndex> : public PlainArgument<LgIndex>
 {
 public:
-    explicit Argument(CallContext &context) : PlainArgument(context.input.number<LgIndex>()) {}
+    explicit DecodedArgument(CallContext &context) : PlainArgument(context.input.number<LgIndex>()) {}
 };
 
 template <>
-class Argument<ZelGUIVoidCallback> : public PlainArgument<ZelGUIVoidCallback>
+class DecodedArgument<ZelGUIVoidCallback> : public PlainArgument<ZelGUIVoidCallback>
 {
 public:
-    explicit Argument(CallContext &context) : PlainArgument(anyVoidCallback(context.input)) {}
+    explicit DecodedArgument(CallContext &context) : PlainArgument(anyVoidCallback(context.input)) {}
 };
 
 template <>
-class Argument<ZelGUIIntCallback> : public PlainArgument<ZelGUIIntCallback>
+class DecodedArgument<ZelGUIIntCallback> : public PlainArgument<ZelGUIIntCallback>
 {
 public:
-    explicit Argument(CallContext &context) : PlainArgument(anyIntCallback(context.input)) {}
+    explicit DecodedArgument(CallContext &context) : PlainArgument(anyIntCallback(context.input)) {}
 };
 
 template <>
-class Argument<ZelGUITextCallback> : public PlainArgument<ZelGUITextCallback>
+class DecodedArgument<ZelGUITextCallback> : public PlainArgument<ZelGUITextCallback>
 {
 public:
-    explicit Argument(CallContext &context) : PlainArgument(anyTextCallback(context.input)) {}
+    explicit DecodedArgument(CallContext &context) : PlainArgument(anyTextCallback(context.input)) {}
 };
 
 template <>
-class Argument<const char *>
+class DecodedArgument<const char *>
 {
 public:
-    explicit Argument(CallContext &context) : m_text(context.input.text()), m_isNull(m_text == "null") {}
+    explicit DecodedArgument(CallContext &context) : m_text(context.input.text()), m_isNull(m_text == "null") {}
     const char *value() const { return m_isNull ? nullptr : m_text.c_str(); }
 
 private:
@@ -122,35 +122,35 @@ private:
 };
 
 template <>
-class Argument<int *> : public Output<int>
+class DecodedArgument<int *> : public Output<int>
 {
     using Output::Output;
 };
 
 template <>
-class Argument<double *> : public Output<double>
+class DecodedArgument<double *> : public Output<double>
 {
     using Output::Output;
 };
 
 template <>
-class Argument<LgIndex *> : public Output<LgIndex>
+class DecodedArgument<LgIndex *> : public Output<LgIndex>
 {
     using Output::Output;
 };
 
 template <>
-class Argument<ZelBoolean *> : public Output<ZelBoolean>
+class DecodedArgument<ZelBoolean *> : public Output<ZelBoolean>
 {
     using Output::Output;
 };
 
 template <>
-class Argument<int **> : public Output<int *>
+class DecodedArgument<int **> : public Output<int *>
 {
 public:
     using Output::Output;
-    ~Argument()
+    ~DecodedArgument()
     {
         if (int **const answer = value())
             ZelUtilStringDealloc(reinterpret_cast<char **>(answer));
@@ -158,11 +158,11 @@ public:
 };
 
 template <>
-class Argument<IndexSet *> : public Output<IndexSet>
+class DecodedArgument<IndexSet *> : public Output<IndexSet>
 {
 public:
     using Output::Output;
-    ~Argument()
+    ~DecodedArgument()
     {
         if (IndexSet *const answer = value())
             ZelUtilSetDealloc(answer);
@@ -170,11 +170,11 @@ public:
 };
 
 template <>
-class Argument<IndexSet>
+class DecodedArgument<IndexSet>
 {
 public:
-    explicit Argument(CallContext &context);
-    ~Argument() { ZelUtilSetDealloc(&m_set); }
+    explicit DecodedArgument(CallContext &context);
+    ~DecodedArgument() { ZelUtilSetDealloc(&m_set); }
     IndexSet value() const { return m_set; }
 
 private:
@@ -182,11 +182,11 @@ private:
 };
 
 template <>
-class Argument<StringList_s *>
+class DecodedArgument<StringList_s *>
 {
 public:
-    explicit Argument(CallContext &context);
-    ~Argument() { ZelUtilStringListDealloc(&m_list); }
+    explicit DecodedArgument(CallContext &context);
+    ~DecodedArgument() { ZelUtilStringListDealloc(&m_list); }
     StringList_s *value() const { return m_list; }
 
 private:
@@ -200,10 +200,10 @@ struct Positions
 };
 
 template <>
-class Argument<Positions> : public PlainArgument<Positions>
+class DecodedArgument<Positions> : public PlainArgument<Positions>
 {
 public:
-    explicit Argument(CallContext &context);
+    explicit DecodedArgument(CallContext &context);
 };
 
 /// Size and pixels of a picture.
@@ -215,10 +215,10 @@ struct Picture
 };
 
 template <>
-class Argument<Picture> : public PlainArgument<Picture>
+class DecodedArgument<Picture> : public PlainArgument<Picture>
 {
 public:
-    explicit Argument(CallContext &context);
+    explicit DecodedArgument(CallContext &context);
 };
 
 #endif

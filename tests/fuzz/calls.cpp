@@ -61,13 +61,13 @@ void selectItems(int list, Positions positions)
 
 // In braces, arguments are made from left to right, the same with every compiler.
 template <typename... Parameters>
-using Arguments = std::tuple<std::unique_ptr<Argument<Parameters>>...>;
+using Arguments = std::tuple<std::unique_ptr<DecodedArgument<Parameters>>...>;
 
 template <typename Result, typename... Parameters>
 auto calling(Result (*function)(Parameters...))
 {
     return [function](CallContext &context) {
-        const Arguments<Parameters...> arguments{std::make_unique<Argument<Parameters>>(context)...};
+        const Arguments<Parameters...> arguments{std::make_unique<DecodedArgument<Parameters>>(context)...};
         std::apply([function](auto &...each) { static_cast<void>(function(each->value()...)); }, arguments);
     };
 }
@@ -76,7 +76,7 @@ template <typename... Parameters>
 auto calling(char *(*function)(Parameters...))
 {
     return [function](CallContext &context) {
-        const Arguments<Parameters...> arguments{std::make_unique<Argument<Parameters>>(context)...};
+        const Arguments<Parameters...> arguments{std::make_unique<DecodedArgument<Parameters>>(context)...};
         char *text = std::apply([function](auto &...each) { return function(each->value()...); }, arguments);
         ZelUtilStringDealloc(&text);
     };
