@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 . tools/debian.sh
 # The names have to be split into words.
 # shellcheck disable=SC2086
-require_packages $build_packages $check_packages
+require_packages $build_packages $check_packages $coverage_packages
 
 [ -f build/coverage/build.ninja ] || cmake --preset coverage
 cmake --build --preset coverage

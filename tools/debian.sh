@@ -39,3 +39,8 @@ bench_packages='qtbase5-dev libbenchmark-dev'
 # What ./torture needs besides.
 # shellcheck disable=SC2034
 torture_packages='valgrind'
+# What tests/fuzz/run.sh and tools/coverage.sh need besides.
+# shellcheck disable=SC2034
+fuzz_packages='clang libclang-rt-dev'
+# shellcheck disable=SC2034
+coverage_packages='gcovr'

@@ -9,6 +9,10 @@ shift
 
 fuzz=$(cd "$(dirname "$0")" && pwd)
 cd "$fuzz/../.." || exit 1
+. tools/debian.sh
+# The names have to be split into words.
+# shellcheck disable=SC2086
+require_packages $build_packages $fuzz_packages || exit 1
 [ -f build/fuzz/build.ninja ] || cmake --preset fuzz || exit 1
 cmake --build --preset fuzz || exit 1
 
