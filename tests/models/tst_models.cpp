@@ -6,6 +6,9 @@
 
 #include <zvsdkbase/hostcontrol.h>
 
+#include <cstdlib>
+#include <limits>
+
 namespace {
 
 // Ranges up to ten digits long are right and take minutes.
@@ -160,7 +163,11 @@ bool tst_Models::writeInteger(TextGenerator &generator, QString &shown)
 bool tst_Models::validateInteger(TextGenerator &generator, QString &shown)
 {
     const QString text = generator.integerText();
-    const IntegerModel::Limits limits = {generator.integer(), generator.integer(), generator.oneIn(2)};
+    const LgIndex max = generator.integer();
+    // Often just what an MX expression comes to.
+    const bool isAtMinimum = generator.oneIn(2) && std::abs(max / 2) < std::numeric_limits<int>::max();
+    const LgIndex min = isAtMinimum ? max + IntegerModel::read(text).value : generator.integer();
+    const IntegerModel::Limits limits = {min, max, generator.oneIn(2)};
     const bool isNamed = !generator.oneIn(4);
     const QString name = QStringLiteral("%1 of é");
     const int field = m_fields[generator.oneIn(2) ? 1 : 0];
