@@ -15,6 +15,7 @@ namespace bench {
 
 /// What is measured of a side's work.
 enum class Meter {
+    /// Of the processor.
     Time,
     /// What the heap holds more afterwards than before.
     Heap,

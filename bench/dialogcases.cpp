@@ -54,6 +54,30 @@ Case stage(const char *name, double limit, const Stage &side)
 
 constexpr int kWidgets = 1000;
 
+void addLibraryLabel(int dialog)
+{
+    ZelGUILabelAdd(dialog, 100, 100, "A label");
+}
+
+void addLibraryField(int dialog)
+{
+    ZelGUITextFieldAdd(dialog, 100, 100, 1000, 130, nullptr);
+}
+
+void addBareField(QWidget *parent)
+{
+    auto *const field = new QLineEdit(parent);
+    field->move(9, 18);
+    field->setFixedSize(90, 23);
+    field->setFocusPolicy(Qt::StrongFocus);
+    QObject::connect(field, &QLineEdit::editingFinished, parent, &QWidget::hide);
+}
+
+void nameLast(QWidget *parent)
+{
+    parent->children().last()->setObjectName(QString::number(10000 + parent->children().size()));
+}
+
 void addBareLabel(QWidget *parent)
 {
     auto *const label = new QLabel(QString::fromUtf8("A label"), parent);
@@ -103,24 +127,19 @@ std::vector<Case> dialogCases()
                               },
                               [life] { life->dialog.reset(); }};
               }),
-        memory(
-            "memory of a label", [](int dialog) { ZelGUILabelAdd(dialog, 100, 100, "A label"); }, addBareLabel),
-        // The name, which says the identifier to the host, takes the toolkit more than all the rest.
-        memory(
-            "memory of a label, both with names", [](int dialog) { ZelGUILabelAdd(dialog, 100, 100, "A label"); },
-            [](QWidget *parent) {
-                addBareLabel(parent);
-                parent->children().last()->setObjectName(QString::number(10000 + parent->children().size()));
-            }),
-        memory(
-            "memory of a text field", [](int dialog) { ZelGUITextFieldAdd(dialog, 100, 100, 1000, 130, nullptr); },
-            [](QWidget *parent) {
-                auto *const field = new QLineEdit(parent);
-                field->move(9, 18);
-                field->setFixedSize(90, 23);
-                field->setFocusPolicy(Qt::StrongFocus);
-                QObject::connect(field, &QLineEdit::editingFinished, parent, &QWidget::hide);
-            }),
+        memory("memory of a label", addLibraryLabel, addBareLabel),
+        memory("memory of a text field", addLibraryField, addBareField),
+        // The name, which tells the host the identifier, takes more than all the rest.
+        memory("memory of a label, both with names", addLibraryLabel,
+               [](QWidget *parent) {
+                   addBareLabel(parent);
+                   nameLast(parent);
+               }),
+        memory("memory of a text field, both with names", addLibraryField,
+               [](QWidget *parent) {
+                   addBareField(parent);
+                   nameLast(parent);
+               }),
     };
 }
 

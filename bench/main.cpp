@@ -8,9 +8,10 @@
 #include <QApplication>
 
 #include <algorithm>
-#include <chrono>
+#include <ctime>
 
 #include <malloc.h>
+#include <sys/resource.h>
 
 namespace {
 
@@ -24,16 +25,22 @@ double heapInUse()
     return double(info.uordblks) + double(info.hblkhd);
 }
 
-double secondsNow()
+/// What this process and the ones that it has waited for have used of the processor: other programs don't count.
+double processorSeconds()
 {
-    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+    timespec own{};
+    rusage children{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &own);
+    getrusage(RUSAGE_CHILDREN, &children);
+    const double seconds = double(own.tv_sec + children.ru_utime.tv_sec + children.ru_stime.tv_sec);
+    return seconds + double(own.tv_nsec) * 1e-9 + double(children.ru_utime.tv_usec + children.ru_stime.tv_usec) * 1e-6;
 }
 
 double measured(const Side &side, Meter meter)
 {
     if (side.prepare)
         side.prepare();
-    const auto now = meter == Meter::Heap ? heapInUse : secondsNow;
+    const auto now = meter == Meter::Heap ? heapInUse : processorSeconds;
     const double before = now();
     side.work();
     const double after = now();

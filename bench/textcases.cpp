@@ -99,7 +99,7 @@ Case writingSet()
         };
         return Comparison{{nullptr, [=, keep = dialog] { ZelGUITextFieldSetSet(id, set.get(), 1); }}, {nullptr, bare}};
     };
-    return {"text field: write a set", {Goal::Ratio, 1.0}, {1000, 10000, 100000, 1000000}, 1, make};
+    return {"text field: write a set", {Goal::Ratio, 1.10}, {1000, 10000, 100000, 1000000}, 1, make};
 }
 
 Case readingSet()
