@@ -79,6 +79,7 @@ private:
 bool isWithin(const std::string &name, const char *unit, double figure, double limit)
 {
     std::printf("%-45s %s%.3f, at most %.2f%s\n", name.c_str(), unit, figure, limit, figure <= limit ? "" : "  FAILED");
+    std::fflush(stdout);
     return figure <= limit;
 }
 
