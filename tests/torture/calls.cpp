@@ -81,7 +81,7 @@ long long call<ZelGUIButtonSetDefault>(int id, const Draw &from)
 template <>
 long long call<ZelGUITabSetCurrentPage>(int id, const Draw &from)
 {
-    ZelGUITabSetCurrentPage(id, id + from.random.between(0, 9));
+    ZelGUITabSetCurrentPage(id, id ^ from.random.between(0, 15));
     return 0;
 }
 

@@ -17,6 +17,8 @@ namespace torture {
 
 namespace {
 
+/// In the last steps of a round, the host may close in any callback.
+constexpr int kClosingSteps = 400;
 /// Identifiers are never forgotten and widgets never die alone, so calls get slower with each: enough for all kinds.
 constexpr int kMostObjects = 350;
 constexpr int kDeepestCallback = 3;
@@ -25,7 +27,7 @@ constexpr int kDeepestCallback = 3;
 class RandomAddOn
 {
 public:
-    explicit RandomAddOn(std::uint64_t seed) : m_seed(seed) {}
+    RandomAddOn(std::uint64_t seed, std::int64_t steps) : m_seed(seed), m_steps(steps) {}
 
     void step();
     void compareWithToolkit();
@@ -43,8 +45,12 @@ private:
     /// In it, event loops end, but not before the user has done something.
     std::unique_ptr<LoopEnder> makeEnder();
     void destroyDialog(Random &random);
+    void closeHost(Random &random);
+    /// What has just died is the most tempting thing to use.
+    void useTheDead(Random &random);
 
     const std::uint64_t m_seed;
+    const std::int64_t m_steps;
     std::uint64_t m_serial = 0;
     Pool m_pool;
     Model m_model;
@@ -92,8 +98,10 @@ int RandomAddOn::inCallback(bool isAboutText)
         return answer;
     for (int calls = random.between(0, 3); calls > 0; --calls)
         callSomething(random);
-    if (random.oneIn(60))
+    if (random.oneIn(8))
         disturb(random);
+    if (progress().step > m_steps - kClosingSteps && random.oneIn(20))
+        closeHost(random);
     return answer;
 }
 
@@ -170,6 +178,20 @@ void RandomAddOn::destroyDialog(Random &random)
         fail("dialog " + std::to_string(id) + " is gone");
     m_model.destroy(id);
     delete dialog;
+    useTheDead(random);
+}
+
+void RandomAddOn::closeHost(Random &random)
+{
+    m_model.destroy(-1);
+    delete mainWindow();
+    useTheDead(random);
+}
+
+void RandomAddOn::useTheDead(Random &random)
+{
+    for (int call = 0; call < 30; ++call)
+        callSomething(random);
 }
 
 std::unique_ptr<LoopEnder> RandomAddOn::makeEnder()
@@ -197,7 +219,7 @@ void RandomAddOn::disturb(Random &random)
         orvane::host::overrideDotsPerInch(96, 96);
     } else if (choice < 84) {
         orvane::host::setBatchModeActive(choice == 80);
-    } else if (choice < 87 && !m_isTextCallback) {
+    } else if (choice < 92 && !m_isTextCallback) {
         // In a text's callback, the dialog may be just losing the activation; see the documentation.
         destroyDialog(random);
     }
@@ -213,6 +235,8 @@ void RandomAddOn::step()
     callSomething(random);
     if (random.oneIn(80))
         disturb(random);
+    if (!mainWindow())
+        m_model.destroy(-1);
     moment();
 }
 
@@ -240,8 +264,10 @@ void RandomAddOn::compareWithToolkit()
 void callAtRandom(std::uint64_t seed, std::int64_t steps)
 {
     openMainWindow();
+    // The first call decides whether there is a GUI: before anything can happen to it.
+    ZelGUIDialogSetPosition(-2, 0, 0);
     {
-        RandomAddOn round(seed);
+        RandomAddOn round(seed, steps);
         addOn = &round;
         while (progress().step < steps)
             round.step();

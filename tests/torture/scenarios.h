@@ -17,8 +17,8 @@ void useAtRandom(std::uint64_t seed, std::int64_t steps, int entry = kAllEntries
 /// Loads the example add-ons, once, before the rounds; the answer is how many entries they have.
 int loadExamples();
 
-/// Everything fails once, at every occasion or, for `share` > 1, at one of so many. False if something was not
-/// survived; `program` is for the command that plays it again.
+/// Everything fails once, at every occasion; but the GUI is lost only at one of `share` moments. False if something was
+/// not survived; `program` is for the command that plays it again.
 bool failEverywhere(std::uint64_t seed, int share, const char *program);
 /// One of these cases.
 struct FaultCase
