@@ -16,7 +16,7 @@ namespace {
 constexpr int kSteps = 60;
 constexpr int kCallSteps = 500;
 /// Rounds of random calls that are scenarios too, besides one for each entry of the examples.
-constexpr int kCallScenarios = 4;
+constexpr int kCallScenarios = 2;
 
 using Limits = std::numeric_limits<double>;
 /// What a host may say of its screen.
