@@ -43,7 +43,8 @@ diff "$folder/declared" "$folder/exported" || complain "The functions declared (
 readelf --dynamic --wide "$library" >"$folder/dynamic"
 readelf --program-headers --wide "$library" >"$folder/segments"
 grep -q 'GNU_STACK.* RW ' "$folder/segments" || complain "The stack is executable."
-grep -q GNU_RELRO "$folder/segments" && grep -q BIND_NOW "$folder/dynamic" || complain "The relocations stay writable."
+grep -q GNU_RELRO "$folder/segments" || complain "The relocations stay writable."
+grep -q BIND_NOW "$folder/dynamic" || complain "The relocations stay writable."
 ! grep -q TEXTREL "$folder/dynamic" || complain "The code is relocated."
 ! grep -E 'RPATH|RUNPATH' "$folder/dynamic" || complain "A run path is left."
 

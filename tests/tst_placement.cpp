@@ -24,8 +24,6 @@ protected Q_SLOTS:
 private Q_SLOTS:
     void pixels_data();
     void pixels();
-    void largest_data();
-    void largest();
     void zeroKeepsTheToolkitsChoice_data();
     void zeroKeepsTheToolkitsChoice();
     void resolution_data();
@@ -71,6 +69,7 @@ void tst_Placement::pixels_data()
     QTest::newRow("line") << 100 << 11 << 25;
     QTest::newRow("line and a half") << 150 << 17 << 37;
     QTest::newRow("wide") << 1000 << 112 << 250;
+    QTest::newRow("beyond what window systems bear") << std::numeric_limits<int>::max() << 32767 << 32767;
 }
 
 void tst_Placement::pixels()
@@ -82,26 +81,6 @@ void tst_Placement::pixels()
     QCOMPARE(widget->minimumSize(), QSize(across, down));
     QCOMPARE(widget->maximumSize(), QSize(across, down));
     QCOMPARE(widget->pos(), QPoint(across, down));
-}
-
-void tst_Placement::largest_data()
-{
-    constexpr int kMost = std::numeric_limits<int>::max();
-    QTest::addColumn<QSize>("units");
-    QTest::addColumn<QSize>("pixels");
-    QTest::newRow("across, as window systems bear") << QSize(kMost, 100) << QSize(32767, 25);
-    QTest::newRow("down, as window systems bear") << QSize(100, kMost) << QSize(11, 32767);
-    QTest::newRow("both, as memory bears") << QSize(kMost, kMost) << QSize(32767, 2048);
-}
-
-void tst_Placement::largest()
-{
-    QFETCH(QSize, units);
-    constexpr int kMost = std::numeric_limits<int>::max();
-    const QWidget *const widget = toggleAt(kMost, kMost, units.width(), units.height());
-    QTEST(widget->minimumSize(), "pixels");
-    QTEST(widget->maximumSize(), "pixels");
-    QCOMPARE(widget->pos(), QPoint(32767, 32767));
 }
 
 void tst_Placement::zeroKeepsTheToolkitsChoice_data()

@@ -15,10 +15,9 @@
  * 2. Units. Positions and sizes follow the font. A unit of height is one hundredth of the height of the widget's font,
  *    so a line of text is 100 high; a unit of width is 0.45 of that, times the ratio of the screen's horizontal to its
  *    vertical resolution, so an average character is about 100 wide. Pixels are rounded to the nearest, a half down,
- *    and never exceed 32767 (8192 for a dialog); the height gives way where a widget would have more pixels than the
- *    largest dialog. A position counts from the parent's top left corner, and only if both x and y are greater than 0;
- *    else the widget stays in that corner. A width or height of 0 or less leaves that dimension to the toolkit. The
- *    sizes are fixed when the widget is made and do not follow later changes of the font.
+ *    and never exceed 32767 (8192 for a dialog). A position counts from the parent's top left corner, and only if both
+ *    x and y are greater than 0; else the widget stays in that corner. A width or height of 0 or less leaves that
+ *    dimension to the toolkit. The sizes are fixed when the widget is made and do not follow later changes of the font.
  *
  * 3. Parents. A widget's parent is a dialog, or a page or frame inside one. It lives as long as its parent; there is
  *    no function to destroy it. A widget that is added to a dialog already visible stays hidden until

@@ -21,10 +21,6 @@ namespace {
 constexpr double kLargestPixels = 32767;
 constexpr double kLargestDialogPixels = 8192;
 
-/// The toolkit draws a button as a whole into memory of its own, four bytes for each pixel, however little is seen of
-/// it. No widget needs more than a dialog can show.
-constexpr int kLargestArea = 8192 * 8192;
-
 /// Horizontal over vertical resolution. A host that reports nonsense gets square pixels.
 double resolutionRatio()
 {
@@ -50,12 +46,6 @@ public:
     int across(int units) const { return toPixels(units / 100.0 * m_fontHeight * m_ratio * 0.45); }
     int down(int units) const { return toPixels(units / 100.0 * m_fontHeight); }
 
-    QSize size(int width, int height) const
-    {
-        const int pixels = across(width);
-        return {pixels, std::min(down(height), kLargestArea / std::max(pixels, 1))};
-    }
-
 private:
     int toPixels(double pixels) const { return static_cast<int>(std::clamp(pixels + 0.499, 0.0, m_largest)); }
 
@@ -74,7 +64,7 @@ void placeWidget(QWidget *widget, int x, int y, int width, int height)
 
     // Fixing both dimensions at once spares the first paint a good part of its time.
     if (width > 0 && height > 0)
-        widget->setFixedSize(scale.size(width, height));
+        widget->setFixedSize(scale.across(width), scale.down(height));
     else if (width > 0)
         widget->setFixedWidth(scale.across(width));
     else if (height > 0)
