@@ -3,6 +3,7 @@
 
 #include <zvsdkbase/hostcontrol.h>
 
+#include <QDialog>
 #include <QListWidget>
 #include <QRandomGenerator>
 #include <QScrollBar>
@@ -119,6 +120,8 @@ private Q_SLOTS:
     void randomOrder();
     void oneAtATimeAmongMany_data();
     void oneAtATimeAmongMany();
+    void oneAtATimeBehindAPage();
+    void oneAtATimeUntilTheEnd();
     void userSelection();
     void userSelectsOne();
     void rangeByUserAfterAddOn();
@@ -364,6 +367,41 @@ void tst_List::oneAtATimeAmongMany()
         QCOMPARE(rangesOf(*list), rangesOf(bare));
     }
     QVERIFY(rangesOf(*list).size() > 256);
+}
+
+/// What is late must not end the silence in which the add-on changes something else: here the page that hides the list.
+void tst_List::oneAtATimeBehindAPage()
+{
+    const int dialog = launchModeless();
+    const int tab = ZelGUITabAdd(dialog, 100, 100, 3000, 1000, reportInt<PageShown>, reportInt<PageLeft>);
+    const int first = ZelGUITabAddPage(tab, "First");
+    const int second = ZelGUITabAddPage(tab, "Second");
+    shown<QWidget>(tab);
+    for (const int page : {first, second}) {
+        const int id = addList(page, true, 800);
+        ZelGUITabSetCurrentPage(tab, page);
+        shown<QListWidget>(id);
+        log().clear();
+        for (int position = 2; position <= 800; position += 2)
+            ZelGUIListSetSelectedItem(id, position);
+        ZelGUITabSetCurrentPage(tab, page == first ? second : first);
+        QCOMPARE(log(), QStringList());
+        QCOMPARE(selectionOf(id).size(), 400);
+    }
+}
+
+/// A host may delete a page while the toolkit is yet to be told of rows.
+void tst_List::oneAtATimeUntilTheEnd()
+{
+    const int dialog = launchModeless();
+    const int frame = ZelGUIFrameAdd(dialog, 100, 100, 3000, 1000, "");
+    const int id = addList(frame, true, 800);
+    shown<QWidget>(frame);
+    shown<QListWidget>(id);
+    for (int position = 2; position <= 800; position += 2)
+        ZelGUIListSetSelectedItem(id, position);
+    delete object<QWidget>(frame);
+    QVERIFY(!object<QDialog>(dialog)->grab().isNull());
 }
 
 void tst_List::userSelection()

@@ -71,13 +71,16 @@ QString formatDouble(const char *format, double value)
     if (!format)
         return {};
     // Add-ons write many numbers in few formats, and to look at one takes longer than to use it.
-    static QByteArray lastFormat;
-    static QByteArray usable;
-    if (lastFormat != format) {
-        usable = usableFormat(format);
-        lastFormat = format;
-    }
-    return usable.isNull() ? QString() : QString::asprintf(usable.constData(), value);
+    struct Format
+    {
+        QByteArray given;
+        QByteArray usable;
+    };
+    // Never deleted: add-ons may still call while the process ends.
+    static Format &last = *new Format;
+    if (last.given != format)
+        last = Format{format, usableFormat(format)};
+    return last.usable.isNull() ? QString() : QString::asprintf(last.usable.constData(), value);
 }
 
 char *allocHostString(const QString &text)

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 namespace orvane::zelgui {
@@ -101,6 +102,7 @@ void selectAndShow(ZelGUIList &list, int position)
     if (list.selectionMode() == QAbstractItemView::ExtendedSelection) {
         list.pendingSelection().select(index.row());
     } else {
+        list.settleSelection();
         const BulkChange change(list);
         list.selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
     }
@@ -151,6 +153,12 @@ ZelGUIList::ZelGUIList(QWidget *parent, int x, int y, int width, int height, boo
     setSelectionMode(isMultiSelection ? ExtendedSelection : SingleSelection);
     placeScrollArea(this, x, y, width, height);
     connect(this, &QListWidget::itemSelectionChanged, this, &ZelGUIList::onItemSelectedChanged);
+}
+
+ZelGUIList::~ZelGUIList()
+{
+    // Before the model, whose end would have it select rows of what is no list any more.
+    delete std::exchange(m_pendingSelection, nullptr);
 }
 
 void ZelGUIList::onItemSelectedChanged()

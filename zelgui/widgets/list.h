@@ -19,6 +19,8 @@ public:
     /// Position and size are in font units.
     ZelGUIList(QWidget *parent, int x, int y, int width, int height, bool isMultiSelection, ZelGUIIntCallback callback);
 
+    ~ZelGUIList() override;
+
     PendingSelection &pendingSelection();
     /// Tells the toolkit of everything that the add-on has selected. For before anybody looks.
     void settleSelection() noexcept;
