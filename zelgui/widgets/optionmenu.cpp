@@ -116,8 +116,6 @@ void ZelGUIOptionMenuDeleteAllItems(int menuId)
 void ZelGUIOptionMenuDeleteItemAtPos(int menuId, int position)
 {
     withWidget<QComboBox>(menuId, [position](QComboBox &menu) {
-        if (position < 1 || position > menu.count())
-            return;
         const CallbackSuppressor suppressor;
         menu.removeItem(indexOf(position));
     });
