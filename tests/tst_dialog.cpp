@@ -23,6 +23,22 @@ QStringList boxTexts(const QDialog *dialog)
     return texts;
 }
 
+/// Counts how often a window is brought to the front.
+class RaiseCounter : public QObject
+{
+public:
+    explicit RaiseCounter(QWidget *window) { window->installEventFilter(this); }
+    int count() const { return m_count; }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        m_count += event->type() == QEvent::ZOrderChange;
+        return false;
+    }
+
+private:
+    int m_count = 0;
+};
+
 } // namespace
 
 /// Dialogs: their buttons, how they are shown, and how they go.
@@ -245,6 +261,13 @@ void tst_Dialog::launchOfModelessReturnsAtOnce()
     ZelGUIDialogLaunch(id);
     QCOMPARE(log(), QStringList({"Init", "Init"}));
     QTRY_COMPARE(QApplication::activeWindow(), static_cast<QWidget *>(object<QDialog>(id)));
+    // Wherever the user has gone since, a launch leads back.
+    mainWindow()->activateWindow();
+    QVERIFY(waitUntilActive(mainWindow()));
+    RaiseCounter raises(object<QDialog>(id));
+    ZelGUIDialogLaunch(id);
+    QCOMPARE(raises.count(), 1);
+    QVERIFY(waitUntilActive(object<QDialog>(id)));
     ZelGUIDialogDrop(id);
     ZelGUIDialogDrop(id);
     QCOMPARE(ZelGUIDialogIsUp(id), 0);

@@ -121,6 +121,8 @@ void tst_OptionMenu::userChoice()
     QTest::keyClick(menu, Qt::Key_Up);
     ZelGUIOptionMenuSet(id, 0);
     QTest::keyClick(menu, Qt::Key_Home);
+    // A host that takes the choice away leaves no position to report.
+    menu->setCurrentIndex(-1);
     QCOMPARE(log(), QStringList({"Option 3", "Option 2", "Option 1"}));
 }
 

@@ -108,24 +108,27 @@ void tst_Placement::resolution_data()
 {
     QTest::addColumn<double>("horizontal");
     QTest::addColumn<double>("vertical");
+    QTest::addColumn<int>("units");
     QTest::addColumn<int>("width");
     const double infinity = std::numeric_limits<double>::infinity();
-    QTest::newRow("one and a half") << 144.0 << 96.0 << 169;
-    QTest::newRow("a half") << 48.0 << 96.0 << 56;
-    QTest::newRow("zero") << 96.0 << 0.0 << 112;
-    QTest::newRow("negative") << -96.0 << 96.0 << 112;
-    QTest::newRow("both negative") << -144.0 << -96.0 << 112;
-    QTest::newRow("infinite") << infinity << infinity << 112;
-    QTest::newRow("not a number") << std::nan("") << 96.0 << 112;
-    QTest::newRow("ratio overflows") << 1e300 << 1e-300 << 112;
+    QTest::newRow("one and a half") << 144.0 << 96.0 << 1000 << 169;
+    QTest::newRow("a half") << 48.0 << 96.0 << 1000 << 56;
+    QTest::newRow("any other order of factors gives more") << 72.0 << 100.0 << 6821 << 552;
+    QTest::newRow("zero") << 96.0 << 0.0 << 1000 << 112;
+    QTest::newRow("negative") << -96.0 << 96.0 << 1000 << 112;
+    QTest::newRow("both negative") << -144.0 << -96.0 << 1000 << 112;
+    QTest::newRow("infinite") << infinity << infinity << 1000 << 112;
+    QTest::newRow("not a number") << std::nan("") << 96.0 << 1000 << 112;
+    QTest::newRow("ratio overflows") << 1e300 << 1e-300 << 1000 << 112;
 }
 
 void tst_Placement::resolution()
 {
     QFETCH(double, horizontal);
     QFETCH(double, vertical);
+    QFETCH(int, units);
     orvane::host::overrideDotsPerInch(horizontal, vertical);
-    const QWidget *const widget = toggleAt(1, 1, 1000, 1000);
+    const QWidget *const widget = toggleAt(1, 1, units, 1000);
     QTEST(widget->maximumWidth(), "width");
     QCOMPARE(widget->maximumHeight(), 250);
 }
