@@ -1,50 +1,47 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/arguments.h"
 
-namespace {
-
-std::vector<int> readPositions(CallContext &context)
+int anyInt(CallContext &context)
 {
-    std::vector<int> positions(context.input.byte() % 16U);
-    for (int &position : positions)
-        position = context.input.number<int>();
-    return positions;
+    constexpr int kObjects = 48;
+    const std::uint8_t choice = context.input.byte();
+    return choice % 2 == 0 ? context.firstId + choice / 2 % kObjects : context.input.number<int>();
 }
 
-Picture readPicture(CallContext &context)
+Arguments::~Arguments()
 {
-    Picture picture;
-    picture.width = context.input.number<int>();
-    picture.height = context.input.number<int>();
-    constexpr int kMostPixels = 10000;
-    const bool isSized = picture.width > 0 && picture.height > 0 && picture.width <= kMostPixels / picture.height;
-    if (isSized)
-        picture.pixels.assign(std::size_t(picture.width) * std::size_t(picture.height) * 3, context.input.byte());
-    return picture;
+    ZelUtilStringDealloc(reinterpret_cast<char **>(&m_numbers));
+    ZelUtilSetDealloc(&m_set);
+    for (IndexSet &set : m_sets)
+        ZelUtilSetDealloc(&set);
+    for (StringList_s *&list : m_lists)
+        ZelUtilStringListDealloc(&list);
 }
 
-} // namespace
-
-DecodedArgument<IndexSet>::DecodedArgument(CallContext &context)
+Arguments::operator const char *()
 {
-    const int count = context.input.byte() % 16;
+    m_texts.push_back(m_input.text());
+    return m_texts.back() == "null" ? nullptr : m_texts.back().c_str();
+}
+
+Arguments::operator IndexSet()
+{
+    const int count = m_input.byte() % 16;
     if (count == 1)
-        return;
-    m_set = ZelUtilSetAlloc(0);
+        return nullptr;
+    m_sets.push_back(ZelUtilSetAlloc(0));
     for (int i = 0; i < count; ++i)
-        ZelUtilSetAddMember(m_set, context.input.number<LgIndex>(), 0);
+        ZelUtilSetAddMember(m_sets.back(), m_input.number<LgIndex>(), 0);
+    return m_sets.back();
 }
 
-DecodedArgument<StringList_s *>::DecodedArgument(CallContext &context)
+Arguments::operator StringList_s *()
 {
-    const int count = context.input.byte() % 16;
+    const int count = m_input.byte() % 16;
     if (count == 1)
-        return;
-    m_list = ZelUtilStringListAlloc();
+        return nullptr;
+    m_lists.push_back(ZelUtilStringListAlloc());
     for (int i = 0; i < count; ++i)
-        ZelUtilStringListAppendString(m_list, context.input.text().c_str());
+        ZelUtilStringListAppendString(m_lists.back(), m_input.text().c_str());
+    return m_lists.back();
 }
-
-DecodedArgument<Positions>::DecodedArgument(CallContext &context) : PlainArgument({readPositions(context)}) {}
-
-DecodedArgument<Picture>::DecodedArgument(CallContext &context) : PlainArgument(readPicture(context)) {}

@@ -11,10 +11,11 @@
 struct Call
 {
     const char *name;
-    std::function<void(CallContext &context)> make;
+    void (*make)(CallContext &context);
 };
 
-/// All functions of the public header. Calls that don't belong at the place, a fourth modal dialog say, do nothing.
+/// All functions of the public header, in the order of their names, so that inputs outlive changes of the header's
+/// order. Calls that don't belong at the place, a fourth modal dialog say, do nothing.
 const std::vector<Call> &calls();
 
 /// What a modal dialog's loop does until it is over. Called again and again while a dialog is launched.

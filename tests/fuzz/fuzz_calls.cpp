@@ -25,7 +25,7 @@ void trace(const char *what, const char *detail = "")
 
 QWidget *visibleWidget(CallContext &context)
 {
-    auto *const widget = FuzzHost::object<QWidget>(DecodedArgument<int>(context).value());
+    auto *const widget = FuzzHost::object<QWidget>(anyInt(context));
     return widget && widget->isVisible() ? widget : nullptr;
 }
 
@@ -57,7 +57,7 @@ void closeWindow(CallContext &context)
 // The host may do that between calls; what happens within one has tests of its own.
 void destroyDialog(CallContext &context)
 {
-    auto *const dialog = FuzzHost::object<QDialog>(DecodedArgument<int>(context).value());
+    auto *const dialog = FuzzHost::object<QDialog>(anyInt(context));
     if (depth == 0)
         delete dialog;
 }
