@@ -62,7 +62,6 @@ private Q_SLOTS:
     void launchInOwnCallback();
     void requestsInACallback();
     void dropInInitIsBeforeTheLaunch();
-    void dropFromNestedModalDialog();
     void dropAndRelaunchFromNestedModalDialog();
     void dropOfOuterWaitsForItsOwnCallback();
     void batchModeStopsLaunches();
@@ -332,25 +331,6 @@ void tst_Dialog::dropInInitIsBeforeTheLaunch()
     action(Init) = [id] { ZelGUIDialogDrop(id); };
     ZelGUIDialogLaunch(id);
     QVERIFY(ZelGUIDialogIsUp(id));
-}
-
-void tst_Dialog::dropFromNestedModalDialog()
-{
-    const int outer = createModal();
-    const int inner = createModal(outer);
-    bool outerWasUp = true;
-    action(Apply) = [&] { ZelGUIDialogLaunch(inner); };
-    whenModal(outer, [&] {
-        whenModal(inner, [&] {
-            ZelGUIDialogDrop(outer);
-            outerWasUp = ZelGUIDialogIsUp(outer);
-            ZelGUIDialogDrop(inner);
-        });
-        QTest::mouseClick(boxButton(object<QDialog>(outer), "Apply"), Qt::LeftButton);
-    });
-    ZelGUIDialogLaunch(outer);
-    QVERIFY(!outerWasUp);
-    QCOMPARE(log(), QStringList({"Init", "Apply", "Init"}));
 }
 
 // The outer dialog's exec() has been told to end but can't while the inner one's is running.

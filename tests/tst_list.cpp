@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <numeric>
 
 using namespace Callback;
 
@@ -115,8 +114,6 @@ private Q_SLOTS:
     void missingPositions_data();
     void missingPositions();
     void selectionModes();
-    void order_data();
-    void order();
     void randomOrder();
     void oneAtATimeAmongMany_data();
     void oneAtATimeAmongMany();
@@ -132,8 +129,6 @@ private Q_SLOTS:
     void smallerThanScrollBars();
     void nullArguments();
     void memory();
-    void manyItems_data();
-    void manyItems();
 };
 
 void tst_List::items()
@@ -209,38 +204,6 @@ void tst_List::selectionModes()
     // Any byte but 0 asks for multi-selection.
     QCOMPARE(object<QListWidget>(ZelGUIListAdd(dialog, 1, 1, 1, 1, 200, nullptr))->selectionMode(),
              QAbstractItemView::ExtendedSelection);
-}
-
-void tst_List::order_data()
-{
-    QTest::addColumn<bool>("isAllSelected");
-    QTest::addColumn<Positions>("positions");
-    QTest::addColumn<Positions>("selected");
-    QTest::newRow("not sorted") << false << Positions({4, 2}) << Positions({4, 2});
-    QTest::newRow("repeated") << false << Positions({4, 2, 5, 4}) << Positions({2, 5, 4});
-    QTest::newRow("neighbours stay apart") << false << Positions({2, 3, 4, 3}) << Positions({2, 4, 3});
-    QTest::newRow("inside a range") << true << Positions({3}) << Positions({1, 2, 4, 5, 6, 3});
-    QTest::newRow("ends of a range") << true << Positions({6, 1}) << Positions({6, 2, 3, 4, 5, 1});
-    QTest::newRow("what a range leaves goes to the end twice")
-        << true << Positions({2, 5}) << Positions({1, 2, 3, 4, 6, 5});
-    QTest::newRow("repeated inside a range") << true << Positions({3, 5, 3}) << Positions({1, 2, 4, 6, 5, 3});
-}
-
-void tst_List::order()
-{
-    QFETCH(bool, isAllSelected);
-    QFETCH(Positions, positions);
-    const int id = addList(createModal(), true, 6);
-    const int oneByOne = addList(createModal(), true, 6);
-    if (isAllSelected) {
-        ZelGUIListSelectAllItems(id);
-        ZelGUIListSelectAllItems(oneByOne);
-    }
-    select(id, positions);
-    QTEST(selectionOf(id), "selected");
-    for (const int position : positions)
-        ZelGUIListSetSelectedItem(oneByOne, position);
-    QTEST(selectionOf(oneByOne), "selected");
 }
 
 /// Selections by the add-on among all else that changes one. The ranges must be the same, not the order of the items
@@ -573,64 +536,6 @@ void tst_List::memory()
     QVERIFY(isUnreleased(3 * sizeof(int)));
     release(selected);
     QVERIFY(!isUnreleased(3 * sizeof(int)));
-}
-
-void tst_List::manyItems_data()
-{
-    QTest::addColumn<bool>("isVisible");
-    QTest::newRow("hidden") << false;
-    QTest::newRow("visible") << true;
-}
-
-/// Whatever grows with the square of the number of items takes a minute or more here, and a second or two otherwise.
-void tst_List::manyItems()
-{
-    QFETCH(bool, isVisible);
-    constexpr int kCount = 100000;
-    const int id = addList(isVisible ? launchModeless() : createModal());
-    auto *const list = object<QListWidget>(id);
-    list->setVisible(isVisible);
-
-    setItems(id, QVector<QByteArray>(kCount, "item"));
-    Positions all(kCount);
-    std::iota(all.begin(), all.end(), 1);
-    Positions odd;
-    std::copy_if(all.begin(), all.end(), std::back_inserter(odd), [](int position) { return position % 2 == 1; });
-    std::shuffle(odd.begin(), odd.end(), QRandomGenerator(1));
-    Positions shuffled = all;
-    std::shuffle(shuffled.begin(), shuffled.end(), QRandomGenerator(2));
-
-    select(id, odd + odd);
-    QCOMPARE(selectionOf(id), odd);
-    // One range, which is divided again and again.
-    ZelGUIListSelectAllItems(id);
-    QCOMPARE(selectionOf(id), all);
-    select(id, odd);
-    QCOMPARE(selectionOf(id).size(), kCount);
-    QCOMPARE(selectionOf(id).last(), odd.last());
-    select(id, shuffled);
-    QCOMPARE(selectionOf(id), shuffled);
-    select(id, {shuffled[kCount / 2]});
-    QCOMPARE(selectionOf(id).last(), shuffled[kCount / 2]);
-    ZelGUIListSetSelectedItem(id, shuffled[0]);
-    QCOMPARE(ZelGUIListGetSelectedItem(id), shuffled[1]);
-
-    ZelGUIListDeleteItemAtPos(id, kCount / 2);
-    QCOMPARE(selectionOf(id).size(), kCount - 1);
-    ZelGUIListDeselectAllItems(id);
-    QCOMPARE(ZelGUIListGetSelectedItem(id), -1);
-
-    select(id, odd.mid(1));
-    log().clear();
-    selectRange(*list, 2, 2, QItemSelectionModel::Toggle);
-    QCOMPARE(log().size(), 1);
-    QCOMPARE(log().first().count(QLatin1Char(' ')), int(odd.size()));
-
-    ZelGUIListDeleteAllItems(id);
-    QCOMPARE(ZelGUIListGetItemCount(id), 0);
-    for (int i = 0; i < kCount; ++i)
-        ZelGUIListAppendItem(id, "item");
-    QCOMPARE(ZelGUIListGetItemCount(id), kCount);
 }
 
 ZELTEST_MAIN(tst_List)

@@ -76,6 +76,7 @@ protected Q_SLOTS:
 
 private Q_SLOTS:
     void membersAreAddedOneByOne();
+    void notARange();
     void refusedMember_data();
     void refusedMember();
     void refusedSet();
@@ -107,6 +108,16 @@ void tst_SetSteps::membersAreAddedOneByOne()
     ZelUtilSetDealloc(&set);
     QCOMPARE(ZelGUITextFieldGetSet(m_field, nullptr), 1);
     QCOMPARE(setsAlive, 0);
+}
+
+// A step of 0 would never come to an end.
+void tst_SetSteps::notARange()
+{
+    for (const char *const text : {"0", "-2", "5-3", "1-9:0", "1-9:-1"}) {
+        ZelGUITextFieldSetString(m_field, text);
+        QCOMPARE(ZelGUITextFieldGetSet(m_field, nullptr), 0);
+    }
+    QCOMPARE(added, QVector<LgIndex>());
 }
 
 void tst_SetSteps::refusedMember_data()

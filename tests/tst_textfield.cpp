@@ -4,17 +4,11 @@
 #include <QApplication>
 #include <QLineEdit>
 
-#include <cmath>
-#include <limits>
-
 using namespace Callback;
 
 namespace {
 
 QStringList messages;
-
-constexpr qint64 kLeast = std::numeric_limits<qint64>::min();
-constexpr qint64 kGreatest = std::numeric_limits<qint64>::max();
 
 } // namespace
 
@@ -24,8 +18,8 @@ extern "C" void ZelUtilDialogErrMsg(const char *message)
     messages << QString::fromUtf8(message);
 }
 
-/// The values of text fields, and what the user is told about wrong ones. What works on a text field works on the text
-/// part of a spin text field: called with "spin", all of this is about those.
+/// Texts and floating-point values of text fields; the models are about integers and sets. What works on a text field
+/// works on the text part of a spin text field: called with "spin", all of this is about those.
 class tst_TextField : public ZelTest
 {
     Q_OBJECT
@@ -42,14 +36,8 @@ private Q_SLOTS:
     void doubles_data();
     void doubles();
     void setDouble();
-    void integers_data();
-    void integers();
-    void setInteger_data();
-    void setInteger();
     void validateDouble_data();
     void validateDouble();
-    void validateInteger_data();
-    void validateInteger();
 
 private:
     bool m_isSpin;
@@ -118,74 +106,6 @@ void tst_TextField::setDouble()
     QCOMPARE(taken(ZelGUITextFieldGetString(m_field)), QByteArray("0.100"));
 }
 
-void tst_TextField::integers_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<qint64>("value");
-    QTest::addColumn<bool>("isInteger");
-    const auto row = [](const char *text, qint64 value, bool isInteger) {
-        QTest::newRow(*text ? text : "empty") << QByteArray(text) << value << isInteger;
-    };
-    row("42", 42, true);
-    row("  17 ", 17, true);
-    row("-5", 5, true);
-    row("abc7def", 7, true);
-    row("3.9", 3, true);
-    row("", 0, false);
-    row("abc", 0, false);
-    row("2147483647", 2147483647, true);
-    row("2147483648", 0, false);
-    row("MX", 0, true);
-    row("mx", 0, true);
-    row("MX-4", -4, true);
-    row("\tMx -\n4 ", -4, true);
-    row("3 MX-4", -4, true);
-    row("mx-2147483648", 0, false);
-    row("MX4", 0, false);
-    row("MX+4", 0, false);
-    row("4 MX", 0, false);
-    row("MX-4-5", -4, true);
-    row("\xD9\xA3", 0, false);
-    row("\xD9\xA3 4", 0, false);
-    row("MX\xC2\xA0-\xE2\x80\x83"
-        "4",
-        -4, true);
-}
-
-void tst_TextField::integers()
-{
-    QFETCH(QByteArray, text);
-    ZelGUITextFieldSetString(m_field, text.constData());
-    LgIndex value = 77;
-    QTEST(bool(ZelGUITextFieldGetLgIndex(m_field, &value)), "isInteger");
-    QTEST(qint64(value), "value");
-    QTEST(bool(ZelGUITextFieldGetLgIndex(m_field, nullptr)), "isInteger");
-}
-
-void tst_TextField::setInteger_data()
-{
-    QTest::addColumn<qint64>("value");
-    QTest::addColumn<int>("asMX");
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("plain") << qint64(7) << 0 << QByteArray("7");
-    QTest::newRow("plain negative") << qint64(-7) << 0 << QByteArray("-7");
-    QTest::newRow("plain zero") << qint64(0) << 0 << QByteArray("0");
-    QTest::newRow("positive has no MX") << qint64(7) << 1 << QByteArray("7");
-    QTest::newRow("maximum") << qint64(0) << 1 << QByteArray("Mx");
-    QTest::newRow("offset") << qint64(-3) << 2 << QByteArray("Mx-3");
-    QTest::newRow("least") << kLeast << 1 << QByteArray("Mx-9223372036854775808");
-    QTest::newRow("greatest") << kGreatest << 0 << QByteArray("9223372036854775807");
-}
-
-void tst_TextField::setInteger()
-{
-    QFETCH(qint64, value);
-    QFETCH(int, asMX);
-    ZelGUITextFieldSetLgIndex(m_field, value, static_cast<ZelBoolean>(asMX));
-    QTEST(taken(ZelGUITextFieldGetString(m_field)), "text");
-    QCOMPARE(log(), QStringList());
-}
-
 void tst_TextField::validateDouble_data()
 {
     QTest::addColumn<QByteArray>("text");
@@ -223,58 +143,6 @@ void tst_TextField::validateDouble()
     QCOMPARE(bool(ZelGUITextFieldValidateDouble(m_field, nullptr, min, max)), message.isEmpty());
     QCOMPARE(messages.size(), message.isEmpty() ? 0 : 1);
     QCOMPARE(taken(ZelGUITextFieldGetString(m_field)), text);
-}
-
-void tst_TextField::validateInteger_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<qint64>("min");
-    QTest::addColumn<qint64>("max");
-    QTest::addColumn<int>("allowMX");
-    QTest::addColumn<QString>("message");
-    const auto row = [](const char *text, const char *message, int allowMX = 1, qint64 min = 1, qint64 max = 10) {
-        QTest::addRow("\"%s\", MX %d, from %lld to %lld", text, allowMX, min, max)
-            << QByteArray(text) << min << max << allowMX << QString::fromUtf8(message);
-    };
-    const char *const range = "Invalid value for Count %2. Expected a value between 1 and 10.";
-    row("", "Value not specified for Count %2.");
-    row(" \t ", "Value not specified for Count %2.");
-    row("5", "");
-    row("5", "", 0);
-    row("0", range);
-    row("11", range);
-    row("-5", "");
-    row("x", "Invalid value specified for Count %2.");
-    row("MX", "");
-    row("MX-9", "");
-    row("MX-10", "Invalid value for Count %2. Expected a value between 1 and 10 but MX-10 evaluates to 0");
-    row("mx - 3", "");
-    row("MX+3", "Invalid value specified for Count %2.");
-    row("a mX b", "MX syntax may not be used for Count %2.", 0);
-    row("MX", "Invalid value for Count %2. Expected a value between 20 and 10 but MX0 evaluates to 10", 1, 20);
-    row("MX-5",
-        "Invalid value for Count %2. Expected a value between 0 and -9223372036854775808 but MX-5 evaluates to "
-        "-9223372036854775808",
-        1, 0, kLeast);
-    row("MX", "", 2, kLeast, kLeast);
-    row("MX", "", 1, 1, kGreatest);
-}
-
-void tst_TextField::validateInteger()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(qint64, min);
-    QFETCH(qint64, max);
-    QFETCH(int, allowMX);
-    QFETCH(QString, message);
-    ZelGUITextFieldSetString(m_field, text.constData());
-    const auto validate = [&](const char *name) {
-        return bool(ZelGUITextFieldValidateLgIndex(m_field, name, min, max, static_cast<ZelBoolean>(allowMX)));
-    };
-    QCOMPARE(validate("Count %2"), message.isEmpty());
-    QCOMPARE(messages, message.isEmpty() ? QStringList() : QStringList(message));
-    QCOMPARE(validate(nullptr), message.isEmpty());
-    QCOMPARE(messages.size(), message.isEmpty() ? 0 : 1);
 }
 
 int main(int argc, char **argv)

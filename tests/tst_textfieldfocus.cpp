@@ -23,8 +23,6 @@ private Q_SLOTS:
     void eachEndOfEditingOnce();
     void rejectedTextCannotBeLeft_data() { kinds(); }
     void rejectedTextCannotBeLeft();
-    void rejectedReturnLeavesTheDefaultButton_data() { kinds(); }
-    void rejectedReturnLeavesTheDefaultButton();
     void twoRejectingFields_data() { kinds(); }
     void twoRejectingFields();
     void cancelTakesOneClick_data() { kinds(); }
@@ -128,22 +126,13 @@ void tst_TextFieldFocus::rejectedTextCannotBeLeft()
     QTest::keyClicks(m_widget, "worse");
     QTest::keyClick(m_widget, Qt::Key_Tab);
     rejected("worse");
+    // As soon as it is accepted, Return presses the default button again, and the field can be left.
     answer(Text) = 5;
+    QTest::keyClick(m_widget, Qt::Key_Return);
+    QCOMPARE(log(), expected << "Text worse"
+                             << "Extra");
     QTest::keyClick(m_widget, Qt::Key_Tab);
     QVERIFY(!hasFocus());
-    QCOMPARE(log(), expected << "Text worse");
-}
-
-void tst_TextFieldFocus::rejectedReturnLeavesTheDefaultButton()
-{
-    open();
-    answer(Text) = 0;
-    QTest::keyClick(m_widget, Qt::Key_Return);
-    QCOMPARE(log(), QStringList({"Text bad"}));
-    // Programmatic changes aren't reported, but what is there can be left again.
-    answer(Text) = 1;
-    QTest::keyClick(m_widget, Qt::Key_Return);
-    QCOMPARE(log(), QStringList({"Text bad", "Text bad", "Extra"}));
 }
 
 void tst_TextFieldFocus::twoRejectingFields()
@@ -184,13 +173,6 @@ void tst_TextFieldFocus::goneWithItsDialog()
     QCOMPARE(ZelGUIDialogIsUp(m_dialog), 0);
     QTest::qWait(10);
     QCOMPARE(log(), QStringList({"Close"}));
-
-    // Dropped by the callback that rejects.
-    open();
-    action(Text) = [this] { ZelGUIDialogDrop(m_dialog); };
-    QTest::keyClick(m_widget, Qt::Key_Tab);
-    QTest::qWait(10);
-    QCOMPARE(log(), QStringList({"Text bad"}));
 
     // Destroyed with the focus in it.
     open();
@@ -247,6 +229,9 @@ void tst_TextFieldFocus::hiddenOrDisabled()
     m_widget->hide();
     QVERIFY(!hasFocus());
     QCOMPARE(log(), QStringList({"Text bad", "OtherText ", "Text bad"}));
+    m_widget->show();
+    m_window->activateWindow();
+    QCOMPARE(m_window->focusWidget(), object<QWidget>(m_other));
 }
 
 void tst_TextFieldFocus::popups()

@@ -23,7 +23,7 @@ Outcome runHost(const QStringList &arguments, const QProcessEnvironment &environ
     host.setProcessEnvironment(environment);
     host.start(QStringLiteral(ZELHOST_PROGRAM), arguments);
     Outcome outcome;
-    if (host.waitForFinished(60000) && host.exitStatus() == QProcess::NormalExit)
+    if (host.waitForFinished(240000) && host.exitStatus() == QProcess::NormalExit)
         outcome.exitCode = host.exitCode();
     outcome.output = lines(host.readAllStandardOutput());
     outcome.errors = lines(host.readAllStandardError());

@@ -16,7 +16,7 @@ struct Outcome
     QStringList errors;
 };
 
-/// Ends zelhost by itself after a minute, as a failure.
+/// Ends zelhost by itself after four minutes, as a failure.
 Outcome runHost(const QStringList &arguments,
                 const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
 

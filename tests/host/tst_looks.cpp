@@ -1,39 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "hostrun.h"
+
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
-
-namespace {
-
-QString module(const char *name)
-{
-    return QStringLiteral(MODULE_PATTERN).arg(QLatin1String(name));
-}
-
-struct Outcome
-{
-    int exitCode = -1;
-    QStringList output;
-    QString errors;
-};
-
-Outcome runHost(const QStringList &arguments)
-{
-    QProcess host;
-    host.start(QStringLiteral(ZELHOST_PROGRAM), arguments);
-    Outcome outcome;
-    if (host.waitForFinished(120000) && host.exitStatus() == QProcess::NormalExit)
-        outcome.exitCode = host.exitCode();
-    outcome.output = QString::fromLocal8Bit(host.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    outcome.errors = QString::fromLocal8Bit(host.readAllStandardError());
-    return outcome;
-}
-
-} // namespace
 
 /// What the host finds wrong with how dialogs look.
 class tst_Looks : public QObject
@@ -59,7 +32,7 @@ void tst_Looks::initTestCase()
 {
     m_inspection = runHost({QStringLiteral("--style"), QStringLiteral("Fusion"), QStringLiteral("--inspect"),
                             m_directory.path(), module("looks")});
-    QCOMPARE(m_inspection.errors, QString());
+    QCOMPARE(m_inspection.errors, QStringList());
     QCOMPARE(m_inspection.exitCode, 5);
 }
 
@@ -141,7 +114,7 @@ void tst_Looks::sweepShowsAndCounts()
         runHost({QStringLiteral("--sweep"), directory.path(), QStringLiteral("--style"), QStringLiteral("Fusion"),
                  QStringLiteral("--font"), QStringLiteral("Sans,10"), QStringLiteral("--launch"),
                  QStringLiteral("Good"), QStringLiteral("--launch"), QStringLiteral("Narrow label"), module("looks")});
-    QCOMPARE(outcome.errors, QString());
+    QCOMPARE(outcome.errors, QStringList());
     QCOMPARE(outcome.exitCode, 5);
     // Two resolutions, of which these dialogs know nothing.
     QCOMPARE(outcome.output.size(), 2);
@@ -170,8 +143,9 @@ void tst_Looks::sweepReportsWhatItCannotLookAt()
         runHost({QStringLiteral("--sweep"), directory.path(), QStringLiteral("--style"), QStringLiteral("Fusion"),
                  QStringLiteral("--font"), QStringLiteral("Sans,10"), module("silent")});
     QCOMPARE(outcome.exitCode, 1);
-    QVERIFY2(outcome.errors.contains(QLatin1String("x96 dpi and 1 more: ")), qPrintable(outcome.errors));
-    QVERIFY2(outcome.errors.contains(QLatin1String("\"Silent\"")), qPrintable(outcome.errors));
+    const QString errors = outcome.errors.join(QLatin1Char('\n'));
+    QVERIFY2(errors.contains(QLatin1String("x96 dpi and 1 more: ")), qPrintable(errors));
+    QVERIFY2(errors.contains(QLatin1String("\"Silent\"")), qPrintable(errors));
 }
 
 QTEST_GUILESS_MAIN(tst_Looks)

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Scripts and recordings, as users of the host run them.
+#include "hostrun.h"
+
 #include <QFile>
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 namespace {
 
-struct Outcome
+struct Played
 {
     int exitCode = -1;
     /// What the add-on printed: its calls.
@@ -35,17 +36,14 @@ private Q_SLOTS:
     void callsOfSteps_data();
     void callsOfSteps();
     void hangsEndWithTheDialogsNames();
-    void missingScript();
-    void optionsThatContradict_data();
-    void optionsThatContradict();
     void pictureOfADialog();
     void recordingDoesTheSame();
     void recordingIsReadable();
 
 private:
     QString write(const QString &script) const;
-    Outcome run(const QStringList &arguments) const;
-    Outcome play(const QString &script) const;
+    Played run(const QStringList &arguments) const;
+    Played play(const QString &script) const;
 
     QTemporaryDir m_folder;
 };
@@ -58,19 +56,16 @@ QString TestScript::write(const QString &script) const
     return file.fileName();
 }
 
-Outcome TestScript::run(const QStringList &arguments) const
+Played TestScript::run(const QStringList &arguments) const
 {
-    QProcess host;
-    host.start(text(ZELHOST_PROGRAM), QStringList(arguments) << text(SCRIPTED_MODULE));
-    Outcome outcome;
-    if (host.waitForFinished(240000) && host.exitStatus() == QProcess::NormalExit)
-        outcome.exitCode = host.exitCode();
-    outcome.calls = QString::fromUtf8(host.readAllStandardOutput());
-    outcome.errors = QString::fromLocal8Bit(host.readAllStandardError());
-    return outcome;
+    const Outcome outcome = runHost(QStringList(arguments) << module("scripted"));
+    const auto joined = [](const QStringList &lines) {
+        return lines.isEmpty() ? QString() : lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
+    };
+    return {outcome.exitCode, joined(outcome.output), joined(outcome.errors)};
 }
 
-Outcome TestScript::play(const QString &script) const
+Played TestScript::play(const QString &script) const
 {
     return run({text("--script"), write(script), text("--timeout"), text("120")});
 }
@@ -104,7 +99,7 @@ void TestScript::badScriptsAreNotRun()
 {
     QFETCH(const QString, line);
     QFETCH(const QString, words);
-    const Outcome outcome = play(text("launch Complaint\n# comment\n\n") + line);
+    const Played outcome = play(text("launch Complaint\n# comment\n\n") + line);
     QCOMPARE(outcome.exitCode, 1);
     QVERIFY2(outcome.errors.contains(text(".zelscript:4: ") + line), qPrintable(outcome.errors));
     QVERIFY2(outcome.errors.contains(words), qPrintable(outcome.errors));
@@ -171,7 +166,7 @@ void TestScript::stepsThatCannotBeDone()
     QFETCH(const QString, step);
     QFETCH(const QString, words);
     const QString script = text("launch Everything\npatience 0\n") + before + step;
-    const Outcome outcome = play(script);
+    const Played outcome = play(script);
     QCOMPARE(outcome.exitCode, 2);
     const int line = static_cast<int>(script.count(QLatin1Char('\n'))) + 1;
     const bool isAtEnd = words.startsWith(text("at the end"));
@@ -223,7 +218,7 @@ void TestScript::callsOfSteps()
 {
     QFETCH(const QString, steps);
     QFETCH(const QString, calls);
-    const Outcome outcome = play(text("launch Everything\n") + steps);
+    const Played outcome = play(text("launch Everything\n") + steps);
     QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
     // Making a scale tells its place; and a dialog that is up ends with the script.
     const QString over = text("everything is over\n");
@@ -234,44 +229,18 @@ void TestScript::hangsEndWithTheDialogsNames()
 {
     const QString script =
         write(text("launch Everything\npress \"Open nested\"\nexpect dialog Nested\npress OK\npress Hang"));
-    const Outcome outcome = run({text("--script"), script, text("--timeout"), text("5")});
+    const Played outcome = run({text("--script"), script, text("--timeout"), text("5")});
     QCOMPARE(outcome.exitCode, 1);
     for (const char *mentioned : {".zelscript:5: press Hang", "has not finished", "the dialog \"Everything\""})
         QVERIFY2(outcome.errors.contains(text(mentioned)), qPrintable(outcome.errors));
     QVERIFY2(!outcome.errors.contains(text("Nested")), qPrintable(outcome.errors));
 }
 
-void TestScript::missingScript()
-{
-    const Outcome outcome = run({text("--script"), m_folder.filePath(text("missing"))});
-    QCOMPARE(outcome.exitCode, 1);
-    QVERIFY(outcome.errors.contains(text("missing")));
-}
-
-void TestScript::optionsThatContradict_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::newRow("batch") << QStringList{text("--script"), text("x"), text("--batch")};
-    QTest::newRow("pictures") << QStringList{text("--script"), text("x"), text("--render"), m_folder.path()};
-    QTest::newRow("launch") << QStringList{text("--script"), text("x"), text("--launch"), text("Everything")};
-    QTest::newRow("batch recorded") << QStringList{text("--record"), text("x"), text("--batch")};
-    QTest::newRow("record to nowhere") << QStringList{text("--record"), text("/nowhere/x")};
-}
-
-void TestScript::optionsThatContradict()
-{
-    QFETCH(const QStringList, options);
-    const Outcome outcome = run(options);
-    QCOMPARE(outcome.exitCode, 1);
-    QVERIFY2(outcome.errors.contains(options[0]), qPrintable(outcome.errors));
-    QCOMPARE(outcome.calls, QString());
-}
-
 void TestScript::pictureOfADialog()
 {
     const QString first = m_folder.filePath(text("first.png"));
     const QString second = m_folder.filePath(text("second.png"));
-    const Outcome outcome = play(text("launch Everything\npicture %1\ntab Shading\npicture %2").arg(first, second));
+    const Played outcome = play(text("launch Everything\npicture %1\ntab Shading\npicture %2").arg(first, second));
     QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
     const QImage before(first);
     const QImage after(second);
@@ -283,9 +252,9 @@ void TestScript::pictureOfADialog()
 void TestScript::recordingDoesTheSame()
 {
     const QString recording = m_folder.filePath(text("recorded.zelscript"));
-    const Outcome original = run({text("--script"), text(EVERYTHING_SCRIPT), text("--record"), recording});
+    const Played original = run({text("--script"), text(EVERYTHING_SCRIPT), text("--record"), recording});
     QVERIFY2(original.exitCode == 0, qPrintable(original.errors));
-    const Outcome replayed = run({text("--script"), recording});
+    const Played replayed = run({text("--script"), recording});
     QVERIFY2(replayed.exitCode == 0, qPrintable(replayed.errors));
     QCOMPARE(replayed.calls, original.calls);
     QVERIFY(original.calls.contains(text("nested ok")));
@@ -298,7 +267,7 @@ void TestScript::recordingIsReadable()
                                       "expect message \"First complaint.\"\nkey Return\n"
                                       "expect message \"Second complaint.\"\nkey Return\npress Cancel\n"
                                       "expect dialog Everything\nchoose Side 2\ncheck \"Twin [2]\"\nclose"));
-    const Outcome outcome = run({text("--script"), script, text("--record"), recording});
+    const Played outcome = run({text("--script"), script, text("--record"), recording});
     QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
     QFile file(recording);
     QVERIFY(file.open(QIODevice::ReadOnly));

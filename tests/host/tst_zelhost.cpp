@@ -36,7 +36,6 @@ private Q_SLOTS:
     void leaksAreReported();
 
     void picturesShowTheDialogs();
-    void picturesNeedNoDisplay();
     void picturesOfLaunchedOnly();
     void dialogsAreClosed_data();
     void dialogsAreClosed();
@@ -80,6 +79,12 @@ void TestZelhost::badStartIsOneLine_data()
         {s("--render"), s("--inspect")});
     row("batch with sweep", {s("--batch"), s("--sweep"), QDir::tempPath(), silent}, {s("--batch")});
     row("sweep into a file", {s("--sweep"), s(NOT_A_MODULE), silent}, {s("--sweep"), s(NOT_A_MODULE)});
+    row("script that is missing", {s("--script"), s("nowhere/x"), silent}, {s("nowhere/x")});
+    row("script in batch mode", {s("--script"), s("x"), s("--batch"), silent}, {s("--script")});
+    row("script and pictures", {s("--script"), s("x"), s("--render"), QDir::tempPath(), silent}, {s("--script")});
+    row("script and launch", {s("--script"), s("x"), s("--launch"), s("Silent"), silent}, {s("--script")});
+    row("recording in batch mode", {s("--record"), s("x"), s("--batch"), silent}, {s("--record")});
+    row("recording to nowhere", {s("--record"), s("/nowhere/x"), silent}, {s("/nowhere/x")});
     row("unknown style", {s("--style"), s("Rococo"), silent}, {s("Rococo"), s("Fusion")});
     row("batch with pictures", {s("--batch"), s("--render"), QDir::tempPath(), silent}, {s("--batch")});
 
@@ -194,22 +199,13 @@ void TestZelhost::picturesShowTheDialogs()
     QCOMPARE(pictures.entryList(QDir::Files).size(), files.size());
 }
 
-void TestZelhost::picturesNeedNoDisplay()
-{
-    const QTemporaryDir directory;
-    const Outcome outcome = runHost({QStringLiteral("--render"), directory.path(), QStringLiteral("--launch"),
-                                     QStringLiteral("Modeless"), module("dialogs")},
-                                    withoutDisplay());
-    QCOMPARE(outcome.exitCode, 0);
-    QVERIFY(QFile::exists(directory.filePath(QStringLiteral("Modeless.png"))));
-}
-
 void TestZelhost::picturesOfLaunchedOnly()
 {
     const QTemporaryDir directory;
     const Outcome outcome =
         runHost({QStringLiteral("--render"), directory.path(), QStringLiteral("--launch"), QStringLiteral("Modeless"),
-                 QStringLiteral("--launch"), QStringLiteral("Late"), module("silent"), module("dialogs")});
+                 QStringLiteral("--launch"), QStringLiteral("Late"), module("silent"), module("dialogs")},
+                withoutDisplay());
     QCOMPARE(outcome.exitCode, 0);
     QCOMPARE(QDir(directory.path()).entryList(QDir::Files),
              QStringList({QStringLiteral("Late.png"), QStringLiteral("Modeless.png")}));

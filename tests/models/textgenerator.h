@@ -26,6 +26,9 @@ public:
     /// Mostly small, some of them at the ends of 32 and 64 bits.
     LgIndex integer();
 
+    /// False half of the time, else any byte that stands for true.
+    ZelBoolean boolean() { return static_cast<ZelBoolean>(oneIn(2) ? 0 : 1 + below(255)); }
+
     bool oneIn(unsigned count) { return below(count) == 0; }
 
 private:

@@ -74,6 +74,7 @@ private Q_SLOTS:
     void integersAreReadAsTold() { forEachCase(&tst_Models::readInteger); }
     void integersAreWrittenAsTold() { forEachCase(&tst_Models::writeInteger); }
     void integersAreValidatedAsTold() { forEachCase(&tst_Models::validateInteger); }
+    void longRangesAndManyMembers();
     void cleanupTestCase() { QVERIFY(orvane::host::unreleased().empty()); }
 
 private:
@@ -118,21 +119,24 @@ bool tst_Models::readSet(TextGenerator &generator, QString &shown)
         told = SetModel::read(text);
     }
     ZelGUITextFieldSetString(m_fields[0], text.toUtf8().constData());
-    IndexSet set = nullptr;
+    auto set = reinterpret_cast<IndexSet>(this);
     const bool isRead = ZelGUITextFieldGetSet(m_fields[0], &set) == 1;
+    const bool isReadForNobody = ZelGUITextFieldGetSet(m_fields[0], nullptr) == 1;
+    const bool isHandedOut = set != nullptr;
     const auto members = takeMembers(set);
     shown = QStringLiteral("\"%1\" was %2read").arg(text, isRead ? QString() : QStringLiteral("not "));
-    return isRead == told.isSet && members == (told.isSet ? SetModel::members(told.ranges) : std::vector<LgIndex>());
+    return isRead == told.isSet && isReadForNobody == isRead && isHandedOut == isRead &&
+           members == (told.isSet ? SetModel::members(told.ranges) : std::vector<LgIndex>());
 }
 
 bool tst_Models::writeSet(TextGenerator &generator, QString &shown)
 {
     const auto members = generator.members();
-    const bool includeBrackets = generator.oneIn(2);
+    const ZelBoolean includeBrackets = generator.boolean();
     IndexSet set = makeSet(members);
     ZelGUITextFieldSetSet(m_fields[0], set, includeBrackets);
     ZelUtilSetDealloc(&set);
-    const QString told = SetModel::write(members, includeBrackets);
+    const QString told = SetModel::write(members, includeBrackets != 0);
     shown = QString::fromUtf8(textOf(m_fields[0])) + QStringLiteral(" instead of ") + told;
     return told == QString::fromUtf8(textOf(m_fields[0]));
 }
@@ -144,18 +148,19 @@ bool tst_Models::readInteger(TextGenerator &generator, QString &shown)
     ZelGUITextFieldSetString(field, text.toUtf8().constData());
     LgIndex value = 77;
     const bool isInteger = ZelGUITextFieldGetLgIndex(field, &value) == 1;
+    const bool isIntegerForNobody = ZelGUITextFieldGetLgIndex(field, nullptr) == 1;
     const auto told = IntegerModel::read(text);
     shown = QStringLiteral("\"%1\" was read as %2 (%3)").arg(text).arg(value).arg(isInteger);
-    return isInteger == told.isInteger && value == told.value;
+    return isInteger == told.isInteger && isIntegerForNobody == isInteger && value == told.value;
 }
 
 bool tst_Models::writeInteger(TextGenerator &generator, QString &shown)
 {
     const LgIndex value = generator.integer();
-    const bool displayAsMX = generator.oneIn(2);
+    const ZelBoolean displayAsMX = generator.boolean();
     const int field = m_fields[generator.oneIn(2) ? 1 : 0];
     ZelGUITextFieldSetLgIndex(field, value, displayAsMX);
-    const QString told = IntegerModel::write(value, displayAsMX);
+    const QString told = IntegerModel::write(value, displayAsMX != 0);
     shown = QString::fromUtf8(textOf(field)) + QStringLiteral(" instead of ") + told;
     return told == QString::fromUtf8(textOf(field));
 }
@@ -167,20 +172,37 @@ bool tst_Models::validateInteger(TextGenerator &generator, QString &shown)
     // Often just what an MX expression comes to.
     const bool isAtMinimum = generator.oneIn(2) && std::abs(max / 2) < std::numeric_limits<int>::max();
     const LgIndex min = isAtMinimum ? max + IntegerModel::read(text).value : generator.integer();
-    const IntegerModel::Limits limits = {min, max, generator.oneIn(2)};
+    const ZelBoolean allowMX = generator.boolean();
+    const IntegerModel::Limits limits = {min, max, allowMX != 0};
     const bool isNamed = !generator.oneIn(4);
     const QString name = QStringLiteral("%1 of é");
     const int field = m_fields[generator.oneIn(2) ? 1 : 0];
     ZelGUITextFieldSetString(field, text.toUtf8().constData());
     messages().clear();
     const bool isValid = ZelGUITextFieldValidateLgIndex(field, isNamed ? name.toLatin1().constData() : nullptr,
-                                                        limits.min, limits.max, limits.allowsMX) == 1;
+                                                        limits.min, limits.max, allowMX) == 1;
     const auto told = IntegerModel::validate(text, name, limits);
     const bool isTold = isNamed && !told.isValid;
     shown = QStringLiteral("\"%1\" from %2 to %3: %4 \"%5\"")
                 .arg(text, QString::number(limits.min), QString::number(limits.max), QString::number(isValid),
                      messages().join(QLatin1Char('|')));
     return isValid == told.isValid && messages() == (isTold ? QStringList(told.message) : QStringList());
+}
+
+// Member by member, the first of these would take minutes to read and to write.
+void tst_Models::longRangesAndManyMembers()
+{
+    IndexSet set = nullptr;
+    ZelGUITextFieldSetString(m_fields[0], "1-9999999999");
+    QCOMPARE(ZelGUITextFieldGetSet(m_fields[0], &set), 1);
+    QCOMPARE(ZelUtilSetGetNextMember(set, 9999999998), LgIndex(9999999999));
+    ZelGUITextFieldSetSet(m_fields[0], set, 0);
+    QCOMPARE(textOf(m_fields[0]), QByteArray("1-9999999999"));
+    ZelUtilSetDealloc(&set);
+
+    ZelGUITextFieldSetString(m_fields[0], "2-400000:4");
+    QCOMPARE(ZelGUITextFieldGetSet(m_fields[0], &set), 1);
+    QCOMPARE(takeMembers(set).size(), std::size_t(100000));
 }
 
 ZELTEST_MAIN(tst_Models)

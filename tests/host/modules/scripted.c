@@ -22,6 +22,28 @@ static void sayNumber(const char *what, int number)
     fflush(stdout);
 }
 
+/* Callbacks that say what they are called with. */
+#define SAYING(callback, what)                                                                                         \
+    static void callback(void)                                                                                         \
+    {                                                                                                                  \
+        say(what);                                                                                                     \
+    }
+#define SAYING_NUMBER(callback, what)                                                                                  \
+    static void callback(const int *value)                                                                             \
+    {                                                                                                                  \
+        sayNumber(what, *value);                                                                                       \
+    }
+SAYING(exported, "exported")
+SAYING(iconPressed, "icon")
+SAYING_NUMBER(gridSwitched, "grid")
+SAYING_NUMBER(sideChosen, "side")
+SAYING_NUMBER(kindChosen, "kind")
+SAYING_NUMBER(opacitySet, "opacity")
+SAYING_NUMBER(opacityDragged, "dragged from")
+SAYING_NUMBER(axesSwitched, "axes")
+SAYING_NUMBER(iconSwitched, "icon toggle")
+SAYING_NUMBER(solverSelected, "solver")
+
 static int nameLeft(const char *text)
 {
     printf("name %s\n", text);
@@ -58,31 +80,6 @@ static void layerDown(void)
     ZelGUISpinTextFieldIncLgIndex(layerSpin, -1, 1, 40);
 }
 
-static void gridSwitched(const int *value)
-{
-    sayNumber("grid", *value);
-}
-
-static void sideChosen(const int *value)
-{
-    sayNumber("side", *value);
-}
-
-static void kindChosen(const int *value)
-{
-    sayNumber("kind", *value);
-}
-
-static void opacitySet(const int *value)
-{
-    sayNumber("opacity", *value);
-}
-
-static void opacityDragged(const int *value)
-{
-    sayNumber("dragged from", *value);
-}
-
 static void zonesSelected(const int *positions)
 {
     printf("zones");
@@ -91,35 +88,10 @@ static void zonesSelected(const int *positions)
     say("");
 }
 
-static void solverSelected(const int *positions)
-{
-    sayNumber("solver", *positions);
-}
-
 static void pageShown(const int *page)
 {
     (void)page;
     say("page shown");
-}
-
-static void axesSwitched(const int *value)
-{
-    sayNumber("axes", *value);
-}
-
-static void exported(void)
-{
-    say("exported");
-}
-
-static void iconPressed(void)
-{
-    say("icon");
-}
-
-static void iconSwitched(const int *value)
-{
-    sayNumber("icon toggle", *value);
 }
 
 static void complain(void)
