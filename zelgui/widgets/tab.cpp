@@ -53,7 +53,9 @@ int ZelGUITabAddPage(int tabId, const char *label)
 {
     return withWidget<QTabWidget>(tabId, kInvalidWidgetId, [label](QTabWidget &tab) {
         auto *const page = new QWidget;
+        // It has its identifier before the tab widget may want to report it.
         const int id = ZelGUIWidgetRepository::instance()->addWidget(page);
+        const CallbackSuppressor suppressor;
         tab.addTab(page, fromUtf8(label));
         return id;
     });
