@@ -31,8 +31,9 @@ done
 # shellcheck disable=SC2046
 quietly cc -shared -fPIC -o /tmp/hello.so /usr/share/doc/zelhost/addons/hello/hello.c $(pkg-config --cflags --libs zelgui)
 rm /tmp/pictures/Hello.png
-quietly zelhost --render /tmp/pictures /tmp/hello.so
+quietly zelhost --strict --trace --render /tmp/pictures /tmp/hello.so
 [ -s /tmp/pictures/Hello.png ]
+grep -q '^Hello:   ZelGUIDialogLaunch(0)$' /tmp/log
 
 echo "Nothing stays behind."
 quietly apt-get purge -y zelhost libzelgui-dev libzelgui1
