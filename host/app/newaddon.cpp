@@ -24,7 +24,7 @@ QStringList wordsOf(const QString &directoryName)
     QStringList words = directoryName.split(others, Qt::SkipEmptyParts);
     // Names that CMake keeps for targets of its own.
     static const QStringList reserved = {
-        QStringLiteral("all"),  QStringLiteral("clean"),   QStringLiteral("edit_cache"), QStringLiteral("help"),
+        QStringLiteral("all"),  QStringLiteral("clean"),   QStringLiteral("preinstall"), QStringLiteral("help"),
         QStringLiteral("test"), QStringLiteral("install"), QStringLiteral("package"),    QStringLiteral("zelhost"),
     };
     if (words.isEmpty() || (words.size() == 1 && reserved.contains(words[0].toLower())))

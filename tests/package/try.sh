@@ -49,6 +49,12 @@ for language in C C++; do
     quietly ctest --test-dir "$new/build" --no-tests=error --output-on-failure
 done
 
+# Names that CMake keeps for itself.
+for name in all clean help install package preinstall; do
+    quietly "$installed/bin/zelhost" --new-addon "$folder/reserved/$name"
+    quietly cmake -S "$folder/reserved/$name" -B "$folder/reserved/$name/build"
+done
+
 cp -r "$folder/new in C" "$folder/before"
 ! "$installed/bin/zelhost" --new-addon "$folder/new in C" 2>"$folder/log" || fail "A project was overwritten."
 grep -q "not empty" "$folder/log" || fail "The reason isn't told."
