@@ -196,8 +196,9 @@ QString contradiction(const Options &options, const QStringList &given)
                      int(!options.sweepDirectory.isEmpty());
     if (ways > 1)
         return QStringLiteral("only one of --render, --inspect and --sweep can be done at a time");
-    if (options.reportLeaks && !options.sweepDirectory.isEmpty())
-        return QStringLiteral("--report-leaks has no effect with --sweep, which runs add-ons in other processes");
+    if ((options.reportLeaks || options.strict || options.trace) && !options.sweepDirectory.isEmpty())
+        return QStringLiteral("--report-leaks, --strict and --trace have no effect with --sweep, which runs add-ons in "
+                              "other processes");
     if (options.timeoutSeconds && !drawsDialogs(options) && options.scriptFile.isEmpty())
         return QStringLiteral("--timeout has an effect only with --render, --inspect, --sweep or --script");
     if (!options.scriptFile.isEmpty() && (options.batch || drawsDialogs(options)))

@@ -74,7 +74,9 @@ void TestZelhost::badStartIsOneLine_data()
             {s("--render"), QDir::tempPath(), s("--timeout"), s(value), silent}, {s("--timeout")});
     }
     row("timeout without pictures", {s("--timeout"), s("5"), silent}, {s("--render")});
-    row("sweep of leaks", {s("--sweep"), QDir::tempPath(), s("--report-leaks"), silent}, {s("--report-leaks")});
+    for (const char *option : {"--report-leaks", "--strict", "--trace"})
+        row(qPrintable(QStringLiteral("sweep with %1").arg(s(option))),
+            {s("--sweep"), QDir::tempPath(), s(option), silent}, {s("--sweep"), s(option)});
     row("pictures and inspection", {s("--render"), QDir::tempPath(), s("--inspect"), QDir::tempPath(), silent},
         {s("--render"), s("--inspect")});
     row("batch with sweep", {s("--batch"), s("--sweep"), QDir::tempPath(), silent}, {s("--batch")});
