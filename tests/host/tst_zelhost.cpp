@@ -33,6 +33,7 @@ private Q_SLOTS:
 
     void batchLaunches();
     void windowLaunchesAndQuits();
+    void launchesAreRecorded();
     void leaksAreReported();
 
     void picturesShowTheDialogs();
@@ -165,6 +166,23 @@ void TestZelhost::windowLaunchesAndQuits()
     QCOMPARE(outcome.exitCode, 0);
     QCOMPARE(outcome.output, QStringList{QStringLiteral("launched: batch 0, dpi 96,96")});
     QCOMPARE(outcome.errors, QStringList());
+}
+
+void TestZelhost::launchesAreRecorded()
+{
+    const QTemporaryDir folder;
+    const QString recording = folder.filePath(QStringLiteral("recorded"));
+    const QString silent = QStringLiteral("Silent");
+    const QString launch = QStringLiteral("--launch");
+    const Outcome outcome =
+        runHost({QStringLiteral("--record"), recording, launch, silent, launch, silent, launch,
+                 QStringLiteral("Quitting"), module("silent"), module("silent"), module("quitting")});
+    QCOMPARE(outcome.exitCode, 0);
+    QFile file(recording);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromUtf8(file.readAll()),
+             QStringLiteral("launch \"Silent\" 1\nlaunch \"Silent\" 2\nlaunch \"Silent\" 1\nlaunch \"Silent\" 2\n"
+                            "launch \"Quitting\"\n"));
 }
 
 void TestZelhost::leaksAreReported()

@@ -5,7 +5,28 @@
 #include "recording.h"
 
 #include <QApplication>
+#include <QMap>
 #include <QTimer>
+
+#include <algorithm>
+
+namespace {
+
+/// Launches what --launch names: each time all entries of a name, in the order of their registration.
+void launchChosen(const Session &session, Recorder *recorder)
+{
+    QMap<std::string, int> launched;
+    for (const orvane::host::AddOn &entry : session.chosen) {
+        const auto sameName = [&entry](const orvane::host::AddOn &other) { return other.name == entry.name; };
+        const auto all = std::count_if(session.registered.begin(), session.registered.end(), sameName);
+        const int number = launched[entry.name]++ % static_cast<int>(all) + 1;
+        if (recorder)
+            recorder->noteLaunch(QString::fromStdString(entry.name), number);
+        entry.launch();
+    }
+}
+
+} // namespace
 
 int runInteractively(const Options &options, const Session &session)
 {
@@ -13,12 +34,7 @@ int runInteractively(const Options &options, const Session &session)
     if (!startRecording(options, session, recorder))
         return Failure;
     // A modal dialog needs the event loop around it.
-    QTimer::singleShot(0, session.window.get(), [entries = session.chosen, recorder = recorder.get()] {
-        for (const orvane::host::AddOn &entry : entries) {
-            if (recorder)
-                recorder->noteLaunch(QString::fromStdString(entry.name), 1);
-            entry.launch();
-        }
-    });
+    QTimer::singleShot(0, session.window.get(),
+                       [session = &session, recorder = recorder.get()] { launchChosen(*session, recorder); });
     return QApplication::exec();
 }
