@@ -85,6 +85,11 @@ void TestScript::badScriptsAreNotRun_data()
     row("no blank", "press \"OK\"now", "blank is missing");
     row("verb in quotes", "\"press\" OK", "no step \"press\"");
     row("dialog without step", "in Everything", "in TITLE STEP");
+    for (const char *step : {"launch Everything", "wait 1", "patience 1", "expect message x", "expect dialog x",
+                             "expect dialog closed", "expect dialog x closed"})
+        row(qPrintable(text("dialog of: %1").arg(text(step))), qPrintable(text("in Everything ") + text(step)),
+            "\"in\" has no effect");
+    row("comment without a blank", "press OK #now", "expected: press NAME");
     row("no number", "drag Opacity fast", "drag NAME NUMBER...");
     row("number in quotes", "drag Opacity \"5\"", "drag NAME NUMBER...");
     row("neither up nor down", "step Layer sideways", "up|down");
@@ -138,6 +143,7 @@ void TestScript::stepsThatCannotBeDone_data()
     row("menu instead of entry", "menu File/Export", "one of its entries");
     row("host's menu behind a modal dialog", "launch Modeless", "keeps users from the host's menu");
     row("other dialog", "in Nested press OK", "no dialog with the title");
+    row("dialog without a title", "in \"\" press OK", "no dialog with the title \"\"");
     row("dialog behind a message", "in Everything press OK", "keeps users from", "press Complain\n");
     row("unexpected message", "press OK", "First complaint.\" is up, which no step has expected", "press Complain\n");
     row("unexpected dialog", "press OK", "\"Nested\" is up, which no step has launched", "press \"Open nested\"\n");
@@ -183,6 +189,10 @@ void TestScript::callsOfSteps_data()
     const auto row = [](const char *name, const char *steps, const char *calls) {
         QTest::newRow(name) << text(steps) << text(calls);
     };
+    row("comment behind a step",
+        "press Complain # twice\nexpect message \"First complaint.\"\npress OK #\n"
+        "expect message \"Second complaint.\"\npress OK",
+        "complain\n");
     row("field left by Tab", "type Name x\nkey Tab", "name x\n");
     row("field left for a button",
         "type Name x\npress Complain\nexpect message \"First complaint.\"\nkey Escape\n"

@@ -14,11 +14,13 @@ struct Form
 {
     Action action;
     const char *pattern;
+    /// Whether "in TITLE" can say which dialog it is about.
+    bool hasDialog = true;
 };
 
 /// Of several that a line suits, the first one counts.
 const Form Forms[] = {
-    {Action::Launch, "launch NAME [NUMBER]"},
+    {Action::Launch, "launch NAME [NUMBER]", false},
     {Action::Press, "press NAME"},
     {Action::Check, "check NAME"},
     {Action::Uncheck, "uncheck NAME"},
@@ -44,12 +46,12 @@ const Form Forms[] = {
     {Action::Click, "click NAME"},
     {Action::Close, "close"},
     {Action::Picture, "picture FILE"},
-    {Action::Wait, "wait SECONDS"},
-    {Action::Patience, "patience SECONDS"},
-    {Action::ExpectMessage, "expect message TEXT"},
-    {Action::ExpectDialogClosed, "expect dialog closed"},
-    {Action::ExpectNamedDialogClosed, "expect dialog TITLE closed"},
-    {Action::ExpectDialog, "expect dialog TITLE"},
+    {Action::Wait, "wait SECONDS", false},
+    {Action::Patience, "patience SECONDS", false},
+    {Action::ExpectMessage, "expect message TEXT", false},
+    {Action::ExpectDialogClosed, "expect dialog closed", false},
+    {Action::ExpectNamedDialogClosed, "expect dialog TITLE closed", false},
+    {Action::ExpectDialog, "expect dialog TITLE", false},
     {Action::ExpectLabel, "expect label TEXT"},
     {Action::ExpectTab, "expect tab NAME"},
     {Action::ExpectMenu, "expect menu PATH checked|unchecked|enabled|disabled"},
@@ -147,6 +149,8 @@ QString readStep(const std::vector<Word> &words, Step &step)
         if (elements[0] != words[verb].text || words[verb].isQuoted)
             continue;
         if (match(elements, words, verb + 1, step.words)) {
+            if (verb > 0 && !form.hasDialog)
+                return QStringLiteral("\"in\" has no effect before: %1").arg(QString::fromLatin1(form.pattern));
             step.action = form.action;
             return {};
         }

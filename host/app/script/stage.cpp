@@ -36,11 +36,11 @@ void Stage::expect(QWidget *window)
 
 QWidget *windowFor(Stage &stage, const Step &step, QString &failure)
 {
-    if (!step.dialog.isNull()) {
-        QWidget *const named = stage.windows->titled(step.dialog);
+    if (step.dialog) {
+        QWidget *const named = stage.windows->titled(*step.dialog);
         if (!named) {
             failure = QStringLiteral("no dialog with the title %1 is up%2")
-                          .arg(quoted(step.dialog), whatThereIs(step.dialog, titlesOf(*stage.windows)));
+                          .arg(quoted(*step.dialog), whatThereIs(*step.dialog, titlesOf(*stage.windows)));
             return nullptr;
         }
         if (const QWidget *const blocker = blockerOf(*named)) {

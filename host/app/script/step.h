@@ -4,6 +4,8 @@
 
 #include "words.h"
 
+#include <optional>
+
 /// What a step does; language.cpp says how each is written.
 enum class Action {
     Launch,
@@ -59,8 +61,8 @@ struct Step
     int line = 0;
     /// For messages: the line without blanks around it.
     QString source;
-    /// Title of the dialog that it is about; null for the topmost.
-    QString dialog;
+    /// Title, which may be empty, of the dialog that it is about; none for the topmost.
+    std::optional<QString> dialog;
     /// The words that vary; keywords are not among them, except one out of several that are possible.
     std::vector<Word> words;
 };

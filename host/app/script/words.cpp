@@ -32,7 +32,7 @@ bool readQuoted(const QString &line, int &i, QString &text)
 
 bool startsComment(const QString &line, int i, bool isFirst)
 {
-    return line[i] == QLatin1Char('#') && (isFirst || i + 1 == line.size() || !line[i + 1].isDigit());
+    return line[i] == QLatin1Char('#') && (isFirst || i + 1 == line.size() || line[i + 1].isSpace());
 }
 
 } // namespace
