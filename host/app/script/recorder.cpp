@@ -370,6 +370,7 @@ void Recorder::keepPlaceFor(QComboBox *menu)
 {
     flush();
     m_openMenu = menu;
+    m_menuPrefix = m_transcript.turnTo(menu->window());
     m_menuPlace = m_transcript.size();
     m_wasOpened = false;
 }
@@ -381,9 +382,8 @@ void Recorder::itemActivated(int index)
         return;
     m_openMenu = nullptr;
     const QString name = nameFor(*menu, *menu->window(), Kinds::Choice);
-    m_transcript.insert(
-        m_menuPlace,
-        QStringLiteral("choose %1 %2").arg(name, nameForItem(index, itemsOf(*static_cast<QObject *>(menu)))));
+    const QString item = nameForItem(index, itemsOf(*static_cast<QObject *>(menu)));
+    m_transcript.insert(m_menuPlace, m_menuPrefix + QStringLiteral("choose %1 %2").arg(name, item));
 }
 
 void Recorder::scaleMoved(int action)
@@ -426,7 +426,7 @@ void Recorder::flush()
         QComboBox *const menu = m_openMenu;
         m_openMenu.clear();
         const QString name = nameFor(*menu, *menu->window(), Kinds::Control);
-        m_transcript.insert(m_menuPlace, QStringLiteral("click %1").arg(name));
+        m_transcript.insert(m_menuPlace, m_menuPrefix + QStringLiteral("click %1").arg(name));
         if (m_wasOpened)
             m_transcript.insert(m_menuPlace + 1, QStringLiteral("key Escape"));
     }

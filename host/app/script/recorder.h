@@ -75,9 +75,10 @@ private:
     const QStringList m_launches;
     /// Where the user has typed; the step follows when that is over.
     QPointer<QLineEdit> m_edited;
-    /// The option menu that may be about to change, and where its step belongs.
+    /// The option menu that may be about to change, and where its step belongs and what that begins with.
     QPointer<QComboBox> m_openMenu;
     int m_menuPlace = 0;
+    QString m_menuPrefix;
     bool m_wasOpened = false;
     /// The scale under the pressed mouse, and the step of its drag, or -1.
     QPointer<QSlider> m_scale;

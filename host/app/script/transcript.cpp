@@ -39,19 +39,25 @@ void Transcript::addLaunch(const QString &name, int number, bool isOnlyOne)
 
 void Transcript::add(QWidget *window, const QString &step)
 {
-    QString line = step;
+    const QString prefix = turnTo(window);
+    m_lines.append(prefix + step);
+    write();
+}
+
+QString Transcript::turnTo(QWidget *window)
+{
+    QString prefix;
     if (window->isWindow() && !isExpected(window)) {
         m_lines.append(QStringLiteral("expect %1 %2")
                            .arg(isMessage(*window) ? QStringLiteral("message") : QStringLiteral("dialog"),
                                 quoted(textOfWindow(*window))));
         m_expected.emplace_back(window);
     } else if (window != top()) {
-        line = QStringLiteral("in %1 %2").arg(quoted(window->windowTitle()), step);
+        prefix = QStringLiteral("in %1 ").arg(quoted(window->windowTitle()));
     }
     windowShown(window);
     m_isLaunching = false;
-    m_lines.append(line);
-    write();
+    return prefix;
 }
 
 void Transcript::insert(int index, const QString &step)

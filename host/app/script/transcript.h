@@ -22,6 +22,10 @@ public:
     /// Adds a step of a dialog, with what has to come before it: that the dialog was expected, or which one is meant.
     void add(QWidget *window, const QString &step);
 
+    /// What a step of this window, which is about to be written, has to begin with: nothing, or which dialog is meant.
+    /// Adds that the dialog was expected, where that has to come before the step.
+    QString turnTo(QWidget *window);
+
     /// Of the step that is added next.
     int size() const { return static_cast<int>(m_lines.size()); }
     void insert(int index, const QString &step);

@@ -8,6 +8,7 @@
 enum { LABELS = 100, FIELDS = 1500, RIGHT = 4000, LINE = 140 };
 
 static int main_ = ZELGUI_INVALID_ID, nested = ZELGUI_INVALID_ID, modeless = ZELGUI_INVALID_ID;
+static int second = ZELGUI_INVALID_ID;
 static int nameField, layerSpin;
 
 static void say(const char *what)
@@ -107,6 +108,18 @@ static void hang(void)
     }
 }
 
+static void moodChosen(const int *value)
+{
+    sayNumber("mood", *value);
+}
+
+static void addFew(int dialog)
+{
+    ZelGUIButtonAdd(dialog, 100, 100, 1200, 130, "Complain", complain);
+    ZelGUILabelAdd(dialog, 100, 300, "Mood:");
+    ZelGUIOptionMenuAdd(dialog, 700, 300, 1200, LINE, "Calm, Bright", moodChosen);
+}
+
 static void nestedOk(void)
 {
     say("nested ok");
@@ -117,8 +130,8 @@ static void openNested(void)
 {
     say("open nested");
     if (nested == ZELGUI_INVALID_ID) {
-        nested = ZelGUIDialogCreateModal(main_, 2000, 300, "Nested", 0, nestedOk, 0, nestedOk, 0);
-        ZelGUIButtonAdd(nested, 100, 100, 1200, 130, "Complain", complain);
+        nested = ZelGUIDialogCreateModal(main_, 2000, 500, "Nested", 0, nestedOk, 0, nestedOk, 0);
+        addFew(nested);
     }
     ZelGUIDialogLaunch(nested);
     say("nested is over");
@@ -133,10 +146,25 @@ static void modelessClosed(void)
 static void launchModeless(void)
 {
     if (modeless == ZELGUI_INVALID_ID) {
-        modeless = ZelGUIDialogCreateModeless(ZELGUI_MAIN_WINDOW, 2000, 300, "Modeless", 0, modelessClosed, 0);
-        ZelGUIButtonAdd(modeless, 100, 100, 1200, 130, "Complain", complain);
+        modeless = ZelGUIDialogCreateModeless(ZELGUI_MAIN_WINDOW, 2000, 500, "Modeless", 0, modelessClosed, 0);
+        addFew(modeless);
     }
     ZelGUIDialogLaunch(modeless);
+}
+
+static void secondClosed(void)
+{
+    say("second closed");
+    ZelGUIDialogDrop(second);
+}
+
+static void launchSecond(void)
+{
+    if (second == ZELGUI_INVALID_ID) {
+        second = ZelGUIDialogCreateModeless(ZELGUI_MAIN_WINDOW, 2000, 500, "Second", 0, secondClosed, 0);
+        ZelGUIButtonAdd(second, 100, 100, 1200, 130, "Complain", complain);
+    }
+    ZelGUIDialogLaunch(second);
 }
 
 static void okPressed(void)
@@ -237,6 +265,7 @@ void ZelAddOnInit(void)
 {
     ZelUtilAddOnRegister("Everything", "", launch);
     ZelUtilAddOnRegister("Modeless", "", launchModeless);
+    ZelUtilAddOnRegister("Second", "", launchSecond);
     ZelUtilAddOnRegister("Complaint", "", launchNothing);
     ZelUtilAddOnRegister("Twice", "", launchModeless);
     ZelUtilAddOnRegister("Twice", "", launchNothing);
