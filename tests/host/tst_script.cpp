@@ -36,6 +36,7 @@ private Q_SLOTS:
     void callsOfSteps_data();
     void callsOfSteps();
     void hangsEndWithTheDialogsNames();
+    void longWaitIsNoHang();
     void pictureOfADialog();
     void recordingDoesTheSame_data();
     void recordingDoesTheSame();
@@ -245,6 +246,13 @@ void TestScript::hangsEndWithTheDialogsNames()
     for (const char *mentioned : {".zelscript:5: press Hang", "has not finished", "the dialog \"Everything\""})
         QVERIFY2(outcome.errors.contains(text(mentioned)), qPrintable(outcome.errors));
     QVERIFY2(!outcome.errors.contains(text("Nested")), qPrintable(outcome.errors));
+}
+
+void TestScript::longWaitIsNoHang()
+{
+    const QString script = write(text("launch Everything\nwait 6"));
+    const Played outcome = run({text("--script"), script, text("--timeout"), text("5")});
+    QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
 }
 
 void TestScript::pictureOfADialog()

@@ -135,17 +135,20 @@ void Player::doNextStep()
     const Step &step = m_steps[m_next];
     if (!m_waiting.isValid())
         m_waiting.start();
-    if (step.action == Action::Patience)
-        m_patienceSeconds = step.words[0].text.toDouble();
-    if (step.action == Action::Wait && secondsSince(m_waiting) < step.words[0].text.toDouble())
-        return;
-    if (step.action == Action::Patience || step.action == Action::Wait) {
-        ++m_next;
-        m_waiting.invalidate();
-        watch();
-    } else {
+    if (step.action != Action::Patience && step.action != Action::Wait) {
         attempt(step);
+        return;
     }
+    const double seconds = step.words[0].text.toDouble();
+    if (step.action == Action::Patience)
+        m_patienceSeconds = seconds;
+    ++m_next;
+    // Also while it lasts: a wait may be longer than a step may take.
+    watch();
+    if (step.action == Action::Wait && secondsSince(m_waiting) < seconds)
+        --m_next;
+    else
+        m_waiting.invalidate();
 }
 
 void Player::attempt(const Step &step)
