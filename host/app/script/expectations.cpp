@@ -129,7 +129,7 @@ QString textOf(const QObject &object, bool &hasText)
 QString expectText(const QWidget &window, const Step &step)
 {
     const Kind &kind = step.words[0].isIdentifier() ? Kinds::Anything : Kinds::Field;
-    const Finding finding = find(window, step.words[0], kind);
+    const SearchResult finding = find(window, step.words[0], kind);
     if (!finding.object)
         return finding.failure;
     bool hasText = false;
@@ -157,7 +157,7 @@ QString stateOf(const QWidget &widget, const QString &wanted)
 QString expectState(const QWidget &window, const Step &step)
 {
     const Kind &kind = step.words[0].isIdentifier() ? Kinds::Anything : Kinds::Control;
-    const Finding finding = find(window, step.words[0], kind);
+    const SearchResult finding = find(window, step.words[0], kind);
     if (!finding.object)
         return finding.failure;
     const QString &wanted = step.words[1].text;
@@ -177,7 +177,7 @@ int currentIndexOf(const QObject &choice)
 
 QString expectChoice(const QWidget &window, const Step &step)
 {
-    const Finding finding = find(window, step.words[0], Kinds::Choice);
+    const SearchResult finding = find(window, step.words[0], Kinds::Choice);
     if (!finding.object)
         return finding.failure;
     const QStringList texts = itemsOf(*finding.object);
@@ -192,7 +192,7 @@ QString expectChoice(const QWidget &window, const Step &step)
 /// The list that the step names; null, with a reason, if there is none.
 QListView *listOf(const QWidget &window, const Step &step, QString &failure)
 {
-    const Finding finding = find(window, step.words[0], Kinds::List);
+    const SearchResult finding = find(window, step.words[0], Kinds::List);
     failure = finding.failure;
     return finding.as<QListView>();
 }
@@ -247,7 +247,7 @@ QString expectItem(const QWidget &window, const Step &step)
 
 QString expectValue(const QWidget &window, const Step &step)
 {
-    const Finding finding = find(window, step.words[0], Kinds::Scale);
+    const SearchResult finding = find(window, step.words[0], Kinds::Scale);
     const auto *const scale = finding.as<QSlider>();
     if (!scale || scale->value() == step.words[1].text.toInt())
         return finding.failure;

@@ -150,9 +150,9 @@ QString describe(const Kind &kind, const Word &name)
     return QStringLiteral("no %1 is called %2").arg(QString::fromLatin1(kind.noun), name.written());
 }
 
-Finding findByIdentifier(const QWidget &dialog, const Word &name, const Kind &kind)
+SearchResult findByIdentifier(const QWidget &dialog, const Word &name, const Kind &kind)
 {
-    Finding result;
+    SearchResult result;
     for (QObject *const object : dialog.findChildren<QObject *>(name.text.mid(1))) {
         if (kind.accepts(*object)) {
             result.object = object;
@@ -237,7 +237,7 @@ QStringList namesOf(const QWidget &dialog, const Kind &kind)
     return names;
 }
 
-Finding find(const QWidget &dialog, const Word &name, const Kind &kind)
+SearchResult find(const QWidget &dialog, const Word &name, const Kind &kind)
 {
     if (name.isIdentifier())
         return findByIdentifier(dialog, name, kind);
@@ -248,7 +248,7 @@ Finding find(const QWidget &dialog, const Word &name, const Kind &kind)
     if (ordinal > 0)
         found = called(all, base);
 
-    Finding result;
+    SearchResult result;
     if (found.empty())
         result.failure =
             QStringLiteral("%1 in %2%3")
@@ -279,9 +279,9 @@ QString hindrance(const QWidget &widget)
     return {};
 }
 
-Finding findUsable(const QWidget &dialog, const Word &name, const Kind &kind)
+SearchResult findUsable(const QWidget &dialog, const Word &name, const Kind &kind)
 {
-    Finding result = find(dialog, name, kind);
+    SearchResult result = find(dialog, name, kind);
     const QList<QWidget *> widgets = widgetsOf(result.object);
     if (widgets.isEmpty())
         return result;

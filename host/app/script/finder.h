@@ -32,7 +32,7 @@ extern const Kind Anything;
 } // namespace Kinds
 
 /// What was found, or the reason why not.
-struct Finding
+struct SearchResult
 {
     QObject *object = nullptr;
     QString failure;
@@ -47,10 +47,10 @@ struct Finding
 /// Finds what has a name, or is labelled so, or stands in a frame with that title and has no name; or what has an
 /// identifier. Of several, one that is visible; `Name [2]` is
 /// the second of them in reading order.
-Finding find(const QWidget &dialog, const Word &name, const Kind &kind);
+SearchResult find(const QWidget &dialog, const Word &name, const Kind &kind);
 
 /// The same, but only what a user can act on.
-Finding findUsable(const QWidget &dialog, const Word &name, const Kind &kind);
+SearchResult findUsable(const QWidget &dialog, const Word &name, const Kind &kind);
 
 /// What find() finds `object` by, such as its name in quotes or its identifier; empty if there is nothing.
 QString nameFor(const QObject &object, const QWidget &dialog, const Kind &kind);

@@ -19,7 +19,7 @@ T *target(Stage &stage, const Step &step, const Kind &kind, QString &failure)
     QWidget *const window = windowFor(stage, step, failure);
     if (!window)
         return nullptr;
-    const Finding finding = findUsable(*window, step.words[0], kind);
+    const SearchResult finding = findUsable(*window, step.words[0], kind);
     failure = finding.failure;
     return finding.as<T>();
 }
