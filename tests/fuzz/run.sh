@@ -18,7 +18,7 @@ cmake --build --preset fuzz || exit 1
 
 # The toolkit isn't instrumented: what it reads after destruction has to hurt.
 export ASAN_OPTIONS=max_free_fill_size=1000000:free_fill_byte=221
-export LSAN_OPTIONS="suppressions=$fuzz/lsan.supp:print_suppressions=0"
+export LSAN_OPTIONS="suppressions=$PWD/tests/lsan.supp:print_suppressions=0"
 export QT_QPA_PLATFORM=offscreen
 
 show_failure() {
