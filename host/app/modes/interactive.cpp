@@ -19,7 +19,8 @@ void launchChosen(const Session &session, Recorder *recorder)
     for (const orvane::host::AddOn &entry : session.chosen) {
         const auto sameName = [&entry](const orvane::host::AddOn &other) { return other.name == entry.name; };
         const auto all = std::count_if(session.registered.begin(), session.registered.end(), sameName);
-        const int number = launched[entry.name]++ % static_cast<int>(all) + 1;
+        int &number = launched[entry.name];
+        number = number < all ? number + 1 : 1;
         if (recorder)
             recorder->noteLaunch(QString::fromStdString(entry.name), number);
         entry.launch();
