@@ -14,13 +14,11 @@ struct Form
 {
     Action action;
     const char *pattern;
-    /// Whether "in TITLE" can say which dialog it is about.
-    bool hasDialog = true;
 };
 
 /// Of several that a line suits, the first one counts.
 const Form Forms[] = {
-    {Action::Launch, "launch NAME [NUMBER]", false},
+    {Action::Launch, "launch NAME [NUMBER]"},
     {Action::Press, "press NAME"},
     {Action::Check, "check NAME"},
     {Action::Uncheck, "uncheck NAME"},
@@ -46,12 +44,12 @@ const Form Forms[] = {
     {Action::Click, "click NAME"},
     {Action::Close, "close"},
     {Action::Picture, "picture FILE"},
-    {Action::Wait, "wait SECONDS", false},
-    {Action::Patience, "patience SECONDS", false},
-    {Action::ExpectMessage, "expect message TEXT", false},
-    {Action::ExpectDialogClosed, "expect dialog closed", false},
-    {Action::ExpectNamedDialogClosed, "expect dialog TITLE closed", false},
-    {Action::ExpectDialog, "expect dialog TITLE", false},
+    {Action::Wait, "wait SECONDS"},
+    {Action::Patience, "patience SECONDS"},
+    {Action::ExpectMessage, "expect message TEXT"},
+    {Action::ExpectDialogClosed, "expect dialog closed"},
+    {Action::ExpectNamedDialogClosed, "expect dialog TITLE closed"},
+    {Action::ExpectDialog, "expect dialog TITLE"},
     {Action::ExpectLabel, "expect label TEXT"},
     {Action::ExpectTab, "expect tab NAME"},
     {Action::ExpectMenu, "expect menu PATH checked|unchecked|enabled|disabled"},
@@ -135,6 +133,23 @@ QString advice(const Word &verb)
     return QStringLiteral("expected: %1").arg(usages.join(QLatin1String("; ")));
 }
 
+/// Whether "in TITLE" before a step has an effect.
+bool canNameDialog(Action action)
+{
+    switch (action) {
+    case Action::Launch:
+    case Action::Wait:
+    case Action::Patience:
+    case Action::ExpectMessage:
+    case Action::ExpectDialogClosed:
+    case Action::ExpectNamedDialogClosed:
+    case Action::ExpectDialog:
+        return false;
+    default:
+        return true;
+    }
+}
+
 QString readStep(const std::vector<Word> &words, Step &step)
 {
     std::size_t verb = 0;
@@ -149,7 +164,7 @@ QString readStep(const std::vector<Word> &words, Step &step)
         if (elements[0] != words[verb].text || words[verb].isQuoted)
             continue;
         if (match(elements, words, verb + 1, step.words)) {
-            if (verb > 0 && !form.hasDialog)
+            if (verb > 0 && !canNameDialog(form.action))
                 return QStringLiteral("\"in\" has no effect before: %1").arg(QString::fromLatin1(form.pattern));
             step.action = form.action;
             return {};
