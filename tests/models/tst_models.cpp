@@ -30,7 +30,7 @@ quint64 numberFromEnvironment(const char *name, quint64 otherwise)
 QByteArray textOf(int field)
 {
     char *text = ZelGUITextFieldGetString(field);
-    const QByteArray copy(text);
+    QByteArray copy(text);
     ZelUtilStringDealloc(&text);
     return copy;
 }
