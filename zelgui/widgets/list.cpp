@@ -12,12 +12,16 @@
 
 #include <algorithm>
 #include <cstring>
+#include <numeric>
 #include <utility>
 #include <vector>
 
 namespace orvane::zelgui {
 
 namespace {
+
+/// Up to as many ranges the toolkit is left to do what costs the square of their number.
+constexpr int kFewRanges = 256;
 
 /// The model's index for a position, which counts from 1; invalid if there is no such item.
 QModelIndex indexAt(const QListWidget &list, int position)
@@ -186,6 +190,25 @@ void ZelGUIList::settleSelection() noexcept
 {
     if (m_pendingSelection)
         m_pendingSelection->flush();
+}
+
+/// For Ctrl+A. The toolkit compares what is selected with what was, which costs the square of the ranges; so a
+/// selection of many is given up first. As ever, it is a change only if not all were selected.
+void ZelGUIList::selectAll()
+{
+    settleSelection();
+    const QItemSelection selection = selectionModel()->selection();
+    if (selectionMode() != ExtendedSelection || selection.size() <= kFewRanges) {
+        QListWidget::selectAll();
+        return;
+    }
+    const auto addRows = [](int rows, const QItemSelectionRange &range) { return rows + range.height(); };
+    const bool isChange = std::accumulate(selection.begin(), selection.end(), 0, addRows) < count();
+    const bool wasBlocked = selectionModel()->blockSignals(true);
+    clearSelection();
+    selectionModel()->blockSignals(wasBlocked || !isChange);
+    QListWidget::selectAll();
+    selectionModel()->blockSignals(wasBlocked);
 }
 
 bool ZelGUIList::event(QEvent *event)

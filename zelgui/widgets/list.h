@@ -25,6 +25,8 @@ public:
     /// Tells the toolkit of everything that the add-on has selected. For before anybody looks.
     void settleSelection() noexcept;
 
+    void selectAll() override;
+
 protected:
     bool event(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
