@@ -28,8 +28,10 @@ void ignore() {}
 class BareDialog
 {
 public:
-    explicit BareDialog(QWidget *parent) : m_dialog(new QDialog(parent))
+    /// With names, every widget that has one in the library's dialog gets one.
+    BareDialog(QWidget *parent, bool hasNames) : m_dialog(new QDialog(parent)), m_hasNames(hasNames)
     {
+        name(m_dialog);
         m_line = QFontMetrics(m_dialog->font()).height();
         m_dialog->setWindowTitle(QStringLiteral("Mixed"));
         auto *const box = new QDialogButtonBox(QDialogButtonBox::Close, m_dialog);
@@ -46,26 +48,32 @@ public:
         auto *const label = new QLabel(QStringLiteral("Label"), m_dialog);
         label->move(across(x), down(y));
         label->setFixedWidth(label->sizeHint().width());
+        name(label);
 
         auto *const field = place(new QLineEdit(m_dialog), x + 600, y, 1000, 130);
+        name(field);
         QObject::connect(field, &QLineEdit::returnPressed, m_dialog, &ignore);
         QObject::connect(field, &QLineEdit::textChanged, m_dialog, &ignore);
 
         auto *const toggle = place(new QCheckBox(QStringLiteral("Toggle"), m_dialog), x, y + 150, 1000, 130);
+        name(toggle);
         QObject::connect(toggle, &QCheckBox::toggled, m_dialog, &ignore);
 
         auto *const button = place(new QPushButton(QStringLiteral("Push"), m_dialog), x + 1000, y + 150, 600, 143);
         button->setAutoDefault(false);
+        name(button);
         QObject::connect(button, &QPushButton::clicked, m_dialog, &ignore);
 
         auto *const menu = new QComboBox(m_dialog);
         place(menu, x, y + 300, 1000, 130);
         menu->addItems({QStringLiteral("first"), QStringLiteral("second"), QStringLiteral("third")});
+        name(menu);
         QObject::connect(menu, QOverload<int>::of(&QComboBox::currentIndexChanged), m_dialog, &ignore);
 
         auto *const list = place(new QListWidget(m_dialog), x, y + 450, 800, 500);
         list->setSelectionMode(QAbstractItemView::ExtendedSelection);
         list->addItem(QStringLiteral("item"));
+        name(list);
         QObject::connect(list, &QListWidget::itemSelectionChanged, m_dialog, &ignore);
 
         auto *const slider = new QSlider(Qt::Horizontal, m_dialog);
@@ -77,6 +85,7 @@ public:
         display->setFixedSize(slider->width(), m_line);
         display->setAlignment(Qt::AlignHCenter);
         display->setNum(0);
+        name(slider);
         QObject::connect(slider, &QSlider::valueChanged, m_dialog, &ignore);
         QObject::connect(slider, &QSlider::actionTriggered, m_dialog, &ignore);
 
@@ -87,6 +96,7 @@ public:
             group->addButton(radio, i + 1);
         }
         group->button(1)->setChecked(true);
+        name(group);
         QObject::connect(group, &QButtonGroup::idClicked, m_dialog, &ignore);
     }
 
@@ -103,7 +113,15 @@ private:
         return widget;
     }
 
+    void name(QObject *object)
+    {
+        if (m_hasNames)
+            object->setObjectName(QString::number(m_names++));
+    }
+
     QDialog *m_dialog;
+    bool m_hasNames;
+    int m_names = 100000;
     int m_line;
 };
 
@@ -121,12 +139,26 @@ public:
 
 } // namespace
 
-QDialog *createBareDialog()
+namespace {
+
+QDialog *createFilled(bool hasNames)
 {
-    BareDialog bare(mainWindow());
+    BareDialog bare(mainWindow(), hasNames);
     for (int i = 0; i < 25; ++i)
         bare.fill(1 + i % 5 * 1700, 1 + i / 5 * 1000);
     return bare.dialog();
+}
+
+} // namespace
+
+QDialog *createBareDialog()
+{
+    return createFilled(false);
+}
+
+QDialog *createNamedBareDialog()
+{
+    return createFilled(true);
 }
 
 void showUntilPainted(QDialog &dialog)

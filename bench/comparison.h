@@ -56,6 +56,8 @@ struct Case
     int calls;
     std::function<Comparison(int size)> make;
     Meter meter = Meter::Time;
+    /// Where the toolkit keeps the goal out of reach: why, and which row shows it.
+    const char *toolkitsLimit = nullptr;
 };
 
 constexpr double kLargestGrowth = 1.1;

@@ -21,6 +21,8 @@ void settle()
     QApplication::processEvents();
 }
 
+const char *const kNameLimit = "an object's name; see \"both with names\"";
+
 /// The dialog of one side, in one of the stages of its life.
 struct Life
 {
@@ -41,15 +43,16 @@ struct Life
 
 using Stage = std::function<Side(const std::shared_ptr<Life> &)>;
 
-Case stage(const char *name, double limit, const Stage &side)
+Case stage(const char *name, double limit, const Stage &side, QDialog *(*createBare)() = createBareDialog,
+           const char *toolkitsLimit = nullptr)
 {
-    const auto make = [side](int) {
+    const auto make = [side, createBare](int) {
         mainWindow();
         const auto library = std::make_shared<Life>(Life{nullptr, createLibraryDialog});
-        const auto bare = std::make_shared<Life>(Life{nullptr, createBareDialog});
+        const auto bare = std::make_shared<Life>(Life{nullptr, createBare});
         return Comparison{side(library), side(bare)};
     };
-    return {name, {Goal::Ratio, limit}, {0}, 1, make};
+    return {name, {Goal::Ratio, limit}, {0}, 1, make, Meter::Time, toolkitsLimit};
 }
 
 constexpr int kWidgets = 1000;
@@ -86,7 +89,8 @@ void addBareLabel(QWidget *parent)
 }
 
 /// The heap that a thousand widgets of one kind take.
-Case memory(const char *name, void (*addLibrary)(int dialog), void (*addBare)(QWidget *parent))
+Case memory(const char *name, void (*addLibrary)(int dialog), void (*addBare)(QWidget *parent),
+            const char *toolkitsLimit = nullptr)
 {
     const auto side = [](const auto &add) {
         const auto dialog = std::make_shared<std::unique_ptr<Dialog>>();
@@ -103,18 +107,19 @@ Case memory(const char *name, void (*addLibrary)(int dialog), void (*addBare)(QW
     const auto make = [=](int) {
         return Comparison{side(addLibrary), side([addBare](int id) { addBare(object<QWidget>(id)); })};
     };
-    return {name, {Goal::Difference, 150}, {0}, kWidgets, make, Meter::Heap};
+    return {name, {Goal::Difference, 150}, {0}, kWidgets, make, Meter::Heap, toolkitsLimit};
 }
 
 } // namespace
 
 std::vector<Case> dialogCases()
 {
+    const auto create = [](const std::shared_ptr<Life> &life) {
+        return Side{[life] { life->end(); }, [life] { life->dialog.reset(life->create()); }};
+    };
     return {
-        stage("dialog of 200 widgets: create", 1.05,
-              [](const std::shared_ptr<Life> &life) {
-                  return Side{[life] { life->end(); }, [life] { life->dialog.reset(life->create()); }};
-              }),
+        stage("dialog of 200 widgets: create", 1.05, create, createBareDialog, kNameLimit),
+        stage("dialog of 200 widgets: create, both with names", 1.05, create, createNamedBareDialog),
         stage("dialog of 200 widgets: show until painted", 1.02,
               [](const std::shared_ptr<Life> &life) {
                   return Side{[life] { life->begin(); }, [life] { showUntilPainted(*life->dialog); }};
@@ -127,8 +132,8 @@ std::vector<Case> dialogCases()
                               },
                               [life] { life->dialog.reset(); }};
               }),
-        memory("memory of a label", addLibraryLabel, addBareLabel),
-        memory("memory of a text field", addLibraryField, addBareField),
+        memory("memory of a label", addLibraryLabel, addBareLabel, kNameLimit),
+        memory("memory of a text field", addLibraryField, addBareField, kNameLimit),
         // The name, which tells the host the identifier, takes more than all the rest.
         memory("memory of a label, both with names", addLibraryLabel,
                [](QWidget *parent) {

@@ -5,8 +5,10 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QListWidget>
 
+#include <algorithm>
 #include <numeric>
 
 namespace bench {
@@ -18,6 +20,8 @@ const std::vector<int> kToAHundredThousand = {1000, 10000, 100000};
 constexpr Goal kNoGoal = {Goal::None, 0};
 /// Against code that costs the square of the number of items.
 constexpr Goal kFarFaster = {Goal::Ratio, 1.0 / 300};
+
+volatile int sink = 0;
 
 void report(const int *) {}
 
@@ -146,6 +150,60 @@ Case listCase(const char *name, Goal goal, const std::vector<int> &sizes, Action
     return {name, goal, sizes, 1, make};
 }
 
+/// A list of the toolkit's own, which tells somebody of its selection as the library's does.
+std::shared_ptr<QListWidget> bareList(const List &list)
+{
+    const auto bare = std::make_shared<QListWidget>();
+    bare->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    for (int i = 0; i < list.size; ++i)
+        bare->addItem(QString::fromUtf8("An item"));
+    QObject::connect(bare.get(), &QListWidget::itemSelectionChanged, bare.get(), [widget = bare.get()] {
+        std::vector<int> positions;
+        for (const QItemSelectionRange &range : widget->selectionModel()->selection()) {
+            for (int row = range.top(); row <= range.bottom(); ++row)
+                positions.push_back(row + 1);
+        }
+        std::sort(positions.begin(), positions.end());
+        sink = int(positions.size());
+    });
+    return bare;
+}
+
+/// The fastest that the toolkit has: all ranges in one selection, onto none.
+void selectInOne(QListWidget &widget, const std::vector<int> &positions)
+{
+    QItemSelection selection;
+    for (const int position : positions)
+        selection.append(QItemSelectionRange(widget.model()->index(position - 1, 0)));
+    widget.clearSelection();
+    widget.selectionModel()->select(selection, QItemSelectionModel::Select);
+}
+
+void selectAlternate(QListWidget &widget, const List &list)
+{
+    selectInOne(widget, list.alternate);
+    widget.selectionModel()->setCurrentIndex(widget.model()->index(0, 0), QItemSelectionModel::NoUpdate);
+}
+
+/// A key of the user's while every other item is selected.
+Case keyCase(const char *name, Goal goal, const std::vector<int> &sizes, Qt::Key key)
+{
+    const auto make = [=](int size) {
+        const auto list = std::make_shared<List>(size, false);
+        list->fill();
+        const auto bare = bareList(*list);
+        const auto side = [list, bare, key](QListWidget &widget) {
+            return Side{[&widget, list, bare] { selectAlternate(widget, *list); },
+                        [&widget, list, key] {
+                            QKeyEvent press(QEvent::KeyPress, key, Qt::ControlModifier);
+                            QApplication::sendEvent(&widget, &press);
+                        }};
+        };
+        return Comparison{side(*list->widget), side(*bare)};
+    };
+    return {name, goal, sizes, 1, make};
+}
+
 Case menuCase(const char *name, Goal goal, void (*library)(int id, int call), void (*bare)(QComboBox &menu, int call),
               bool isFilled = true)
 {
@@ -192,14 +250,20 @@ std::vector<Case> fillingCases()
         listCase("visible list: append items", {Goal::Ratio, 1.15}, kToAHundredThousand, clear, append, appendBare,
                  true),
         listCase(
-            "visible list: append and show each", kNoGoal, {1000, 10000}, clear,
+            "visible list: append and show each", {Goal::Ratio, 1.15}, {250, 1000}, clear,
             [](List &list) {
                 for (int i = 1; i <= list.size; ++i) {
                     ZelGUIListAppendItem(list.id, "An item");
                     ZelGUIListSetTopItemNum(list.id, i);
                 }
             },
-            nullptr, true),
+            [](List &list) {
+                for (int i = 0; i < list.size; ++i) {
+                    list.widget->addItem(QString::fromUtf8("An item"));
+                    list.widget->scrollTo(list.widget->model()->index(i, 0), QAbstractItemView::PositionAtTop);
+                }
+            },
+            true),
         listCase("list: read items", kNoGoal, kToAMillion, nothing,
                  [](List &list) {
                      for (int i = 1; i <= list.size; ++i) {
@@ -231,29 +295,56 @@ std::vector<Case> selectionCases()
     const auto deselect = [](List &list) { ZelGUIListDeselectAllItems(list.id); };
     const auto read = [](List &list) { list.read(); };
     const auto selectAlternate = [](List &list) { list.select(list.alternate); };
+    Case scrolled = listCase("10,000 of 20,000: select one at a time", kFarFaster, {20000}, deselect, selectOneByOne,
+                             selectOneByOneBare);
+    scrolled.toolkitsLimit = "each call scrolls to the item; see the next row";
     return {
-        listCase("list: select all", kNoGoal, kToAMillion, fillAndSelect,
-                 [](List &list) { ZelGUIListSelectAllItems(list.id); }),
-        listCase("list: select every other item", kNoGoal, kToAMillion, deselect, selectAlternate),
-        listCase("list: select onto a selection", kNoGoal, kToAMillion, fillAndSelect,
-                 [](List &list) { list.select(list.scattered); }),
-        listCase("list: deselect every other item", kNoGoal, kToAMillion, fillAndSelect, deselect),
+        listCase(
+            "list: select all", kNoGoal, kToAMillion, fillAndSelect,
+            [](List &list) { ZelGUIListSelectAllItems(list.id); },
+            [](List &list) {
+                const QAbstractItemModel *const model = list.widget->model();
+                list.widget->clearSelection();
+                const QItemSelection all(model->index(0, 0), model->index(list.size - 1, 0));
+                list.widget->selectionModel()->select(all, QItemSelectionModel::Select);
+            }),
+        listCase("list: select every other item", kNoGoal, kToAMillion, deselect, selectAlternate,
+                 [](List &list) { selectInOne(*list.widget, list.alternate); }),
+        listCase(
+            "list: select onto a selection", kNoGoal, kToAMillion, fillAndSelect,
+            [](List &list) { list.select(list.scattered); },
+            [](List &list) { selectInOne(*list.widget, list.scattered); }),
+        listCase("list: deselect every other item", kNoGoal, kToAMillion, fillAndSelect, deselect,
+                 [](List &list) { list.widget->clearSelection(); }),
         listCase("list: read the selection", kNoGoal, kToAMillion, fillAndSelect, read),
         listCase("list: select one item at a time", kNoGoal, kToAMillion, deselect, selectOneByOne),
         listCase("visible list: select one item at a time", kNoGoal, kToAHundredThousand, deselect, selectOneByOne,
                  nullptr, true),
         listCase(
-            "visible list: select, read, select, ...", kNoGoal, {1000, 10000}, deselect,
+            "visible list: select, read, select, ...", kNoGoal, {500, 3000}, deselect,
             [](List &list) {
                 for (const int position : list.alternate) {
                     ZelGUIListSetSelectedItem(list.id, position);
                     ZelGUIListGetSelectedItem(list.id);
                 }
             },
-            nullptr, true),
+            [](List &list) {
+                for (const int position : list.alternate) {
+                    list.selectBare(position);
+                    list.widget->scrollTo(list.widget->model()->index(position - 1, 0));
+                    sink = list.widget->selectionModel()->selection().first().top();
+                }
+            },
+            true),
+        keyCase("list: user selects all with Ctrl+A", {Goal::Ratio, 1.15}, {1000, 3000, 9000}, Qt::Key_A),
+        keyCase("list: user selects one more with Ctrl", {Goal::Ratio, 1.15}, {1000, 9000}, Qt::Key_Space),
         listCase("10,000 of 20,000: select", kFarFaster, {20000}, deselect, selectAlternate, selectOneByOneBare),
-        listCase("10,000 of 20,000: select one at a time", kNoGoal, {20000}, deselect, selectOneByOne,
-                 selectOneByOneBare),
+        scrolled,
+        listCase("10,000 of 20,000: the same beside scrolling alone", kNoGoal, {20000}, deselect, selectOneByOne,
+                 [](List &list) {
+                     for (const int position : list.alternate)
+                         list.widget->scrollTo(list.widget->model()->index(position - 1, 0));
+                 }),
         listCase("10,000 of 20,000: read by selectedRows()", kFarFaster, {20000}, fillAndSelect, read,
                  [](List &list) { list.widget->selectionModel()->selectedRows(0); }),
         listCase("10,000 of 20,000: read by isSelected()", kFarFaster, {20000}, fillAndSelect, read,

@@ -10,6 +10,7 @@ namespace bench {
 
 QDialog *createLibraryDialog();
 QDialog *createBareDialog();
+QDialog *createNamedBareDialog();
 void showUntilPainted(QDialog &dialog);
 
 } // namespace bench

@@ -48,7 +48,7 @@ bool isMet(const Goal &goal, const Row &row)
 {
     switch (goal.kind) {
     case Goal::Ratio:
-        return row.ratio <= goal.limit;
+        return row.ratio() <= goal.limit;
     case Goal::Difference:
         return row.library - row.bare <= goal.limit;
     case Goal::Most:
@@ -94,8 +94,8 @@ void Table::add(const Case &tested, const Row &row)
     const bool hasBare = row.bare > 0;
     std::printf("%-44s %9s %10s %10s %7s  ", tested.name.c_str(), row.size > 0 ? std::to_string(row.size).c_str() : "",
                 figure(row.library, tested.meter).c_str(), hasBare ? figure(row.bare, tested.meter).c_str() : "",
-                !hasBare ? "" : format(row.ratio < 0.1 ? "%.4f" : "%.3f", row.ratio).c_str());
-    judge(written(tested.goal, tested.meter), isMet(tested.goal, row));
+                !hasBare ? "" : format(row.ratio() < 0.1 ? "%.5f" : "%.3f", row.ratio()).c_str());
+    judge(written(tested.goal, tested.meter), isMet(tested.goal, row), tested.toolkitsLimit);
 }
 
 void Table::endCase()
@@ -112,18 +112,24 @@ void Table::endCase()
     m_rows.clear();
 }
 
-bool Table::judge(const std::string &goal, bool isMet)
+void Table::judge(const std::string &goal, bool isMet, const char *toolkitsLimit)
 {
-    std::printf("%s%s\n", goal.c_str(), isMet ? "" : "  MISSED");
+    std::string outcome;
+    if (!isMet && toolkitsLimit) {
+        outcome = std::string("  toolkit's limit: ") + toolkitsLimit;
+        ++m_beyondReach;
+    } else if (!isMet) {
+        outcome = "  MISSED";
+        ++m_missed;
+    }
+    std::printf("%s%s\n", goal.c_str(), outcome.c_str());
     std::fflush(stdout);
-    m_missed += isMet ? 0 : 1;
-    return isMet;
 }
 
 bool Table::finish()
 {
     endCase();
-    std::printf("\n%d goals missed\n", m_missed);
+    std::printf("\n%d goals missed, %d out of reach because of the toolkit\n", m_missed, m_beyondReach);
     return m_missed == 0;
 }
 

@@ -12,7 +12,8 @@ struct Row
     int size;
     double library;
     double bare;
-    double ratio;
+
+    double ratio() const { return library / bare; }
 };
 
 /// The power of the size with which the library's figures grow: the slope of the line through their logarithms.
@@ -29,12 +30,13 @@ public:
 
 private:
     void endCase();
-    bool judge(const std::string &goal, bool isMet);
+    void judge(const std::string &goal, bool isMet, const char *toolkitsLimit = nullptr);
 
     std::string m_name;
     bool m_isGrowing = false;
     std::vector<Row> m_rows;
     int m_missed = 0;
+    int m_beyondReach = 0;
 };
 
 } // namespace bench

@@ -96,10 +96,10 @@ constexpr Goal kGetter = {Goal::Difference, 10e-9};
 Case lookup(const char *name, Goal goal, bool isExisting)
 {
     const auto make = [isExisting](int count) {
-        int last = 0;
+        int last = Dialog().id();
         while (last < count) {
             const Dialog passing;
-            for (int i = 0; i < 10000; ++i)
+            for (int i = 0; i < 500; ++i)
                 last = ZelGUIVertSeparatorAdd(passing.id(), 1, 1, 10);
         }
         const auto dialog = std::make_shared<Dialog>();
