@@ -121,6 +121,7 @@ private Q_SLOTS:
     void oneAtATimeBeforeASort();
     void oneAtATimeUntilTheEnd();
     void userSelection();
+    void userSelectsAllAfterMany();
     void userSelectsOne();
     void rangeByUserAfterAddOn();
     void silentChanges();
@@ -410,6 +411,23 @@ void tst_List::userSelection()
     QTest::keyClick(list, Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(log(),
              QStringList({"List 2", "List 2 5", "List 1 2 5", "List 1 2", "List 1", "List none", "List 1 2 3 4 5 6"}));
+}
+
+/// One report, as after any change, and none where all were selected already, however that had come about.
+void tst_List::userSelectsAllAfterMany()
+{
+    const int id = addList(launchModeless(), true, 800);
+    auto *const list = shown<QListWidget>(id);
+    for (const int step : {2, 1}) {
+        ZelGUIListDeselectAllItems(id);
+        for (int position = 1; position <= 800; position += step)
+            ZelGUIListSetSelectedItem(id, position);
+        QCOMPARE(selectionOf(id).size(), 800 / step);
+        log().clear();
+        QTest::keyClick(list, Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(log().size(), step == 2 ? 1 : 0);
+        QCOMPARE(rangesOf(*list), (QVector<QPair<int, int>>{{1, 800}}));
+    }
 }
 
 void tst_List::userSelectsOne()
