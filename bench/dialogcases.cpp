@@ -118,7 +118,7 @@ std::vector<Case> dialogCases()
         return Side{[life] { life->end(); }, [life] { life->dialog.reset(life->create()); }};
     };
     return {
-        stage("dialog of 200 widgets: create", 1.05, create, createBareDialog, kNameLimit),
+        stage("dialog of 200 widgets: create", 1.05, create, createBareDialog),
         stage("dialog of 200 widgets: create, both with names", 1.05, create, createNamedBareDialog),
         stage("dialog of 200 widgets: show until painted", 1.02,
               [](const std::shared_ptr<Life> &life) {
