@@ -144,6 +144,7 @@ private:
     void checkOverlaps(const std::vector<const QWidget *> &content)
     {
         std::vector<QRect> places;
+        places.reserve(content.size());
         for (const QWidget *const widget : content)
             places.push_back(placeOf(*widget));
         for (std::size_t i = 0; i < content.size(); ++i) {
