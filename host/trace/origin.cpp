@@ -27,6 +27,8 @@ Module moduleOf(const void *address)
 /// Whether an address is in the program itself: an add-on's ZelAddOnInit has ended with a call.
 bool isProgram(const Module &module)
 {
+    // The system tells addresses as numbers.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr)
     static const void *const program = moduleOf(reinterpret_cast<const void *>(getauxval(AT_ENTRY))).base;
     return module.base == program;
 }

@@ -72,7 +72,7 @@ std::string listText(StringList_s *list, bool isLatin1)
         return "null";
     return itemsText(ZelUtilStringListGetCount(list), [list, isLatin1](LgIndex i) {
         char *item = ZelUtilStringListGetString(list, i + 1);
-        const std::string text = quoted(item, isLatin1);
+        std::string text = quoted(item, isLatin1);
         ZelUtilStringDealloc(&item);
         return text;
     });

@@ -38,7 +38,7 @@ QString chooseRadioButton(Stage &stage, const Step &step)
 QString chooseFromMenu(Stage &stage, QComboBox &menu, int index)
 {
     const QPointer<QComboBox> guard(&menu);
-    const QString failure = clickOn(stage, &menu, clickPoint(menu));
+    QString failure = clickOn(stage, &menu, clickPoint(menu));
     if (!failure.isEmpty())
         return failure;
     // A field that is left for the menu may show a message instead.
