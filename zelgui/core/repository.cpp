@@ -29,10 +29,20 @@ ZelGUIWidgetRepository::ZelGUIWidgetRepository()
 
 int ZelGUIWidgetRepository::addWidget(QObject *object)
 {
+    if (!m_objects.empty() && !m_objects.back())
+        releaseDead();
     const auto id = static_cast<int>(m_objects.size());
     object->setObjectName(QString::number(id));
     m_objects.emplace_back(object);
     return id;
+}
+
+void ZelGUIWidgetRepository::releaseDead()
+{
+    for (; m_releasedUpTo < m_objects.size(); ++m_releasedUpTo) {
+        if (!m_objects[m_releasedUpTo])
+            m_objects[m_releasedUpTo].clear();
+    }
 }
 
 int ZelGUIWidgetRepository::idOf(const QObject *object) const

@@ -63,8 +63,14 @@ private:
     ZelGUIWidgetRepository();
     static ZelGUIWidgetRepository *create();
 
+    /// The toolkit keeps a small block of memory for each dead object that is still pointed to. Those of many dialogs
+    /// would cut the heap into pieces and make each new dialog slower, so they are given back; each place is looked
+    /// at once.
+    void releaseDead();
+
     static ZelGUIWidgetRepository *s_instance;
     std::vector<QPointer<QObject>> m_objects;
+    std::size_t m_releasedUpTo = 0;
     bool m_callbacksSuppressed = false;
     bool m_guiAvailable = false;
 };
