@@ -48,8 +48,11 @@ void showColor(QAbstractButton &button, int color)
 
 ZelGUIButton::ZelGUIButton(QWidget *parent, int x, int y, int width, int height, const char *label,
                            ZelGUIVoidCallback callback)
-    : QPushButton(fromTrimmedLatin1(label), parent), m_callback(callback)
+    : QPushButton(parent), m_callback(callback)
 {
+    // Not by the base's constructor: the toolkit would make this button's accessible interface twice, the first time
+    // for what is a QPushButton until then.
+    setText(fromTrimmedLatin1(label));
     placeWidget(this, x, y, width, withRoomForFrame(height));
     connect(this, &QPushButton::clicked, this, &ZelGUIButton::buttonClicked);
     setDefault(false);

@@ -10,8 +10,10 @@ namespace orvane::zelgui {
 
 ZelGUIToggle::ZelGUIToggle(QWidget *parent, int x, int y, int width, int height, const char *label,
                            ZelGUIIntCallback callback)
-    : QCheckBox(fromTrimmedLatin1(label), parent), m_callback(callback)
+    : QCheckBox(parent), m_callback(callback)
 {
+    // Not by the base's constructor, as for buttons.
+    setText(fromTrimmedLatin1(label));
     placeWidget(this, x, y, width, height);
     // Not stateChanged(): after an add-on has set the box back in its callback, that misses the user's next change.
     connect(this, &QCheckBox::toggled, this, &ZelGUIToggle::onValueChangedCallback);
