@@ -53,13 +53,20 @@ void withWidget(int id, Action &&action) noexcept
     });
 }
 
-/// Makes and registers a T, constructed from its parent and `arguments`; the answer is its identifier.
+/// Registers what `make` makes in the parent; the answer is its identifier.
+template <typename Make>
+int addTo(int parentId, Make &&make) noexcept
+{
+    return withWidget<QWidget>(parentId, kInvalidWidgetId, [&](QWidget &parent) {
+        return ZelGUIWidgetRepository::instance()->addWidget(std::forward<Make>(make)(parent));
+    });
+}
+
+/// The same for a T, constructed from its parent and `arguments`.
 template <typename T, typename... Arguments>
 int addWidgetTo(int parentId, Arguments... arguments) noexcept
 {
-    return withWidget<QWidget>(parentId, kInvalidWidgetId, [&](QWidget &parent) {
-        return ZelGUIWidgetRepository::instance()->addWidget(new T(&parent, arguments...));
-    });
+    return addTo(parentId, [&](QWidget &parent) { return new T(&parent, arguments...); });
 }
 
 } // namespace orvane::zelgui

@@ -10,16 +10,6 @@ namespace orvane::zelgui {
 
 namespace {
 
-/// A stack of pages, one of which is shown.
-class Form : public QStackedWidget
-{
-public:
-    Form(QWidget *parent, int x, int y, int width, int height) : QStackedWidget(parent)
-    {
-        placeWidget(this, x, y, width, height);
-    }
-};
-
 void showPage(QWidget &page)
 {
     auto *const form = qobject_cast<QStackedWidget *>(page.parentWidget());
@@ -38,7 +28,11 @@ using namespace orvane::zelgui;
 
 int ZelGUIFormAdd(int parentId, int x, int y, int width, int height)
 {
-    return addWidgetTo<Form>(parentId, x, y, width, height);
+    return addTo(parentId, [=](QWidget &parent) {
+        auto *const form = new QStackedWidget(&parent);
+        placeWidget(form, x, y, width, height);
+        return form;
+    });
 }
 
 int ZelGUIFormAddPage(int formId)

@@ -15,39 +15,26 @@ namespace {
 /// Pixels by which a frame with a title reaches above its place.
 constexpr int kTitleRoom = 10;
 
-/// A box around a group of widgets; with a title unless that is null.
-class GroupFrame : public QGroupBox
+QGroupBox *makeFrame(QWidget &parent, int x, int y, int width, int height, const char *title)
 {
-public:
-    GroupFrame(QWidget *parent, int x, int y, int width, int height, const char *title) : QGroupBox(parent)
-    {
-        placeWidget(this, x, y, width, height);
-        const int titleRoom = title ? kTitleRoom : 0;
-        move(this->x(), this->y() - titleRoom);
-        setFixedSize(this->width(), this->height() + titleRoom);
-        if (title)
-            setTitle(fromUtf8(title));
-        // What was made before and stands inside stays visible.
-        lower();
-    }
-};
+    auto *const frame = new QGroupBox(&parent);
+    placeWidget(frame, x, y, width, height);
+    const int titleRoom = title ? kTitleRoom : 0;
+    frame->move(frame->x(), frame->y() - titleRoom);
+    frame->setFixedSize(frame->width(), frame->height() + titleRoom);
+    if (title)
+        frame->setTitle(fromUtf8(title));
+    // What was made before and stands inside stays visible.
+    frame->lower();
+    return frame;
+}
 
-/// A line, one pixel thick.
-class Separator : public QFrame
+QFrame *makeSeparator(QWidget &parent, QFrame::Shape shape)
 {
-public:
-    Separator(QWidget *parent, Shape shape, int x, int y, int length) : QFrame(parent)
-    {
-        setFrameShape(shape);
-        if (shape == VLine) {
-            placeWidget(this, x, y, 0, length);
-            setFixedWidth(1);
-        } else {
-            placeWidget(this, x, y, length, 0);
-            setFixedHeight(1);
-        }
-    }
-};
+    auto *const separator = new QFrame(&parent);
+    separator->setFrameShape(shape);
+    return separator;
+}
 
 } // namespace
 
@@ -57,15 +44,25 @@ using namespace orvane::zelgui;
 
 int ZelGUIFrameAdd(int parentId, int x, int y, int width, int height, const char *title)
 {
-    return addWidgetTo<GroupFrame>(parentId, x, y, width, height, title);
+    return addTo(parentId, [=](QWidget &parent) { return makeFrame(parent, x, y, width, height, title); });
 }
 
 int ZelGUIVertSeparatorAdd(int parentId, int x, int y, int height)
 {
-    return addWidgetTo<Separator>(parentId, QFrame::VLine, x, y, height);
+    return addTo(parentId, [=](QWidget &parent) {
+        QFrame *const line = makeSeparator(parent, QFrame::VLine);
+        placeWidget(line, x, y, 0, height);
+        line->setFixedWidth(1);
+        return line;
+    });
 }
 
 int ZelGUIHorzSeparatorAdd(int parentId, int x, int y, int width)
 {
-    return addWidgetTo<Separator>(parentId, QFrame::HLine, x, y, width);
+    return addTo(parentId, [=](QWidget &parent) {
+        QFrame *const line = makeSeparator(parent, QFrame::HLine);
+        placeWidget(line, x, y, width, 0);
+        line->setFixedHeight(1);
+        return line;
+    });
 }

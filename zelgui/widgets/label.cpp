@@ -7,31 +7,17 @@
 
 #include <QLabel>
 
-namespace orvane::zelgui {
-
-namespace {
-
-/// A line of text as wide as the text that it is made with.
-class Label : public QLabel
-{
-public:
-    Label(QWidget *parent, int x, int y, const char *text) : QLabel(parent)
-    {
-        placeWidget(this, x, y, 0, 0);
-        setText(fromUtf8(text));
-        setFixedWidth(sizeHint().width());
-    }
-};
-
-} // namespace
-
-} // namespace orvane::zelgui
-
 using namespace orvane::zelgui;
 
 int ZelGUILabelAdd(int parentId, int x, int y, const char *text)
 {
-    return addWidgetTo<Label>(parentId, x, y, text);
+    return addTo(parentId, [=](QWidget &parent) {
+        auto *const label = new QLabel(&parent);
+        placeWidget(label, x, y, 0, 0);
+        label->setText(fromUtf8(text));
+        label->setFixedWidth(label->sizeHint().width());
+        return label;
+    });
 }
 
 void ZelGUILabelSetText(int labelId, const char *text)
