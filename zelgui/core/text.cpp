@@ -7,9 +7,10 @@
 #include <QRegularExpression>
 
 #include <boost/algorithm/string/trim.hpp>
+#include <boost/range/as_literal.hpp>
 
 #include <cstring>
-#include <string>
+#include <locale>
 
 namespace orvane::zelgui {
 
@@ -50,9 +51,19 @@ QString fromLatin1(const char *text)
     return QString::fromLatin1(text);
 }
 
+QString fromTrimmedLatin1(Characters text)
+{
+    const std::locale locale;
+    // Boost's own predicate looks the facet up anew for each character.
+    const auto &types = std::use_facet<std::ctype<char>>(locale);
+    const auto isSpace = [&types](char character) { return types.is(std::ctype_base::space, character); };
+    const Characters trimmed = boost::algorithm::trim_copy_if(text, isSpace);
+    return QString::fromLatin1(trimmed.begin(), int(trimmed.size()));
+}
+
 QString fromTrimmedLatin1(const char *text)
 {
-    return fromLatin1(boost::algorithm::trim_copy(std::string(text ? text : "")).c_str());
+    return fromTrimmedLatin1(boost::as_literal(text ? text : ""));
 }
 
 QString fromUtf8(const char *text)

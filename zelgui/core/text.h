@@ -4,14 +4,19 @@
 
 #include <QString>
 
+#include <boost/range/iterator_range.hpp>
+
 /// Text on its way between add-ons and the toolkit.
 namespace orvane::zelgui {
+
+using Characters = boost::iterator_range<const char *>;
 
 /// Latin-1 text of an add-on; null is empty.
 QString fromLatin1(const char *text);
 
 /// Latin-1 text without the white space at its ends, as the global locale classifies it; null is empty.
 QString fromTrimmedLatin1(const char *text);
+QString fromTrimmedLatin1(Characters text);
 
 /// UTF-8 text of an add-on, a byte order mark at its start included; null is empty.
 QString fromUtf8(const char *text);

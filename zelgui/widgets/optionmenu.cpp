@@ -9,7 +9,6 @@
 #include <boost/algorithm/string/classification.hpp>
 #include <boost/algorithm/string/split.hpp>
 
-#include <string>
 #include <vector>
 
 namespace orvane::zelgui {
@@ -18,11 +17,12 @@ namespace {
 
 QStringList splitItems(const char *itemList)
 {
-    std::vector<std::string> pieces;
+    std::vector<Characters> pieces;
     boost::split(pieces, itemList ? itemList : "", boost::is_any_of(","));
     QStringList items;
-    for (const std::string &piece : pieces)
-        items << fromTrimmedLatin1(piece.c_str());
+    items.reserve(int(pieces.size()));
+    for (const Characters piece : pieces)
+        items << fromTrimmedLatin1(piece);
     return items;
 }
 
