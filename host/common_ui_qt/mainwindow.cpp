@@ -28,10 +28,11 @@ QMainWindow *searchMainWindow()
 QWidget *findMainWindow(bool searchAnew)
 {
     static QPointer<QMainWindow> lastFound;
+    if (lastFound && !searchAnew)
+        return lastFound;
     if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
         return nullptr;
-    if (searchAnew || !lastFound)
-        lastFound = searchMainWindow();
+    lastFound = searchMainWindow();
     return lastFound;
 }
 

@@ -8,6 +8,7 @@
 #include <QFontMetrics>
 #include <QLabel>
 #include <QScrollBar>
+#include <QStyle>
 #include <QWidget>
 
 #include <algorithm>
@@ -37,10 +38,8 @@ double resolutionRatio()
 class PixelScale
 {
 public:
-    explicit PixelScale(const QWidget *widget)
-        : m_fontHeight(QFontMetrics(widget->font()).height()),
-          m_ratio(resolutionRatio()),
-          m_largest(qobject_cast<const QDialog *>(widget) ? kLargestDialogPixels : kLargestPixels)
+    PixelScale(const QWidget &widget, double largest)
+        : m_fontHeight(widget.fontMetrics().height()), m_ratio(resolutionRatio()), m_largest(largest)
     {}
 
     int across(int units) const { return toPixels(units / 100.0 * m_fontHeight * m_ratio * 0.45); }
@@ -58,7 +57,9 @@ private:
 
 void placeWidget(QWidget *widget, int x, int y, int width, int height)
 {
-    const PixelScale scale(widget);
+    // No dialog is made inside of another widget, and a cast takes as long as the rest.
+    const bool isDialog = widget->isWindow() && qobject_cast<QDialog *>(widget);
+    const PixelScale scale(*widget, isDialog ? kLargestDialogPixels : kLargestPixels);
     if (x > 0 && y > 0)
         widget->move(scale.across(x), scale.down(y));
 
@@ -70,14 +71,17 @@ void placeWidget(QWidget *widget, int x, int y, int width, int height)
     else if (height > 0)
         widget->setFixedHeight(scale.down(height));
 
-    if (!qobject_cast<QDialog *>(widget) && !qobject_cast<QLabel *>(widget))
+    if (!isDialog && !qobject_cast<QLabel *>(widget))
         widget->setFocusPolicy(Qt::StrongFocus);
 }
 
 void placeScrollArea(QAbstractScrollArea *area, int x, int y, int width, int height)
 {
     placeWidget(area, x, y, width, height);
-    const int bars = area->verticalScrollBar()->sizeHint().width() + area->horizontalScrollBar()->sizeHint().height();
+    const auto extent = [style = area->style()](const QScrollBar *bar) {
+        return style->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, bar);
+    };
+    const int bars = extent(area->verticalScrollBar()) + extent(area->horizontalScrollBar());
     const QSize room = area->maximumSize() - QSize(bars, bars);
     if (room.width() <= 2 * area->frameWidth() || room.height() <= 2 * area->frameWidth()) {
         area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -40,12 +40,12 @@ ZelGUIRadioBox::ZelGUIRadioBox(QWidget *parent, int x, int y, int width, int hei
 {
     const QStringList texts = textsOf(labels);
     const int step = height / static_cast<int>(texts.size());
+    int above = 0;
     for (const QString &text : texts) {
-        const int above = static_cast<int>(buttons().size());
         auto *const button = new QRadioButton(parent);
         placeWidget(button, x, columnY(y, above, step), width, step);
         button->setText(text);
-        addButton(button, above + 1);
+        addButton(button, ++above);
     }
     button(1)->setChecked(true);
     connect(this, &QButtonGroup::idClicked, this, &ZelGUIRadioBox::onButtonClicked);
