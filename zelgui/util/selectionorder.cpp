@@ -123,7 +123,9 @@ void selectInTurn(QItemSelectionModel &model, const std::vector<int> &rows)
     // it had been selected before.
     const RowIterator last = rows.end() - 1;
     const QModelIndex lastIndex = model.model()->index(*last, 0);
-    QItemSelection selection = joined(*model.model(), model.selection(), rows.begin(), last);
+    QItemSelection selection = model.selection();
+    if (rows.size() > 1)
+        selection = joined(*model.model(), selection, rows.begin(), last);
     const bool isRepeated = selection.contains(lastIndex);
     if (isRepeated)
         selection = joined(*model.model(), selection, last, rows.end());
