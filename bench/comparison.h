@@ -65,6 +65,8 @@ constexpr double kLargestGrowth = 1.1;
 std::vector<Case> dialogCases();
 std::vector<Case> valueCases();
 std::vector<Case> listCases();
+std::vector<Case> selectionCases();
+std::vector<Case> menuCases();
 std::vector<Case> textCases();
 /// Starts of a process, which only the program of the timings can measure.
 std::vector<Case> startCases();

@@ -137,9 +137,11 @@ int main(int argc, char **argv)
             isFine = checkRatio(counter, tested, bound.ratio) && isFine;
         }
     }
-    for (const Case &tested : listCases()) {
-        if (tested.sizes.size() > 2)
-            isFine = checkGrowth(counter, tested) && isFine;
+    for (const auto &cases : {listCases(), selectionCases()}) {
+        for (const Case &tested : cases) {
+            if (tested.sizes.size() > 2)
+                isFine = checkGrowth(counter, tested) && isFine;
+        }
     }
     return isFine && found == std::size(kBounds) ? 0 : 1;
 }

@@ -112,7 +112,8 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     Table table;
     benchmark::Initialize(&argc, argv);
-    for (const auto &cases : {startCases(), dialogCases(), valueCases(), listCases(), textCases()}) {
+    for (const auto &cases :
+         {startCases(), dialogCases(), valueCases(), listCases(), selectionCases(), menuCases(), textCases()}) {
         for (const Case &tested : cases) {
             for (const int size : tested.sizes)
                 benchmark::RegisterBenchmark((tested.name + '/' + std::to_string(size)).c_str(),

@@ -147,8 +147,8 @@ std::vector<Case> textCases()
         // A line for 79 characters: 7,900,000 are 100,000 calls.
         appending("text: append lines", false, kLine, {79000, 790000, 7900000}),
         appending("visible text: append lines", true, kLine, {79000, 790000, 7900000}),
-        appending("text: append to one line", false, "word ", {79000, 790000}),
-        appending("visible text: append to one line", true, "word ", {79000, 790000}),
+        appending("text: append to one line", false, "word ", {7900, 79000}),
+        appending("visible text: append to one line", true, "word ", {7900, 79000}),
         writingSet(),
         readingSet(),
     };
