@@ -37,8 +37,6 @@ QMainWindow *makeMainWindow()
     // Both live as long as the process, whoever ends it: the toolkit doesn't survive the end of main().
     static auto *const application = new QApplication(argc, argv);
     Q_UNUSED(application)
-    // The default style draws a button as a whole into a pixmap; one of the greatest size would take all memory.
-    QApplication::setStyle(QStringLiteral("Windows"));
     auto *const window = new QMainWindow;
     qInstallMessageHandler(showFatalMessages);
     orvane::host::overrideDotsPerInch(96, 96);

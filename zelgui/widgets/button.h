@@ -17,6 +17,9 @@ public:
     /// Position and size are in font units; the button becomes 1.1 times as high.
     ZelGUIButton(QWidget *parent, int x, int y, int width, int height, const char *label, ZelGUIVoidCallback callback);
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private Q_SLOTS:
     void buttonClicked();
 

@@ -18,6 +18,9 @@ public:
     ZelGUIOptionMenu(QWidget *parent, int x, int y, int width, int height, const char *itemList,
                      ZelGUIIntCallback callback);
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private Q_SLOTS:
     void onCurrentIndexChanged(int index);
 
