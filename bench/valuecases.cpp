@@ -146,7 +146,7 @@ std::vector<Case> valueCases()
             [](int id, int call) { ZelGUITextFieldSetLgIndex(id, call, 0); },
             [](QLineEdit &field, int call) { field.setText(QString::number(call)); }),
         value<QLineEdit>(
-            "text field: get integer", {Goal::None, 0}, addField,
+            "text field: get integer", kGetter, addField,
             [](int id, int) {
                 LgIndex number = 0;
                 ZelGUITextFieldGetLgIndex(id, &number);

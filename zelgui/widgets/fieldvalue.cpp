@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <limits>
 
 namespace orvane::zelgui {
@@ -17,6 +18,18 @@ namespace {
 QString mx()
 {
     return QStringLiteral("MX");
+}
+
+bool isAsciiDigit(QChar character)
+{
+    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+}
+
+std::optional<LgIndex> toLgIndex(const QString &digits)
+{
+    bool isNumber = false;
+    const LgIndex number = digits.toInt(&isNumber);
+    return isNumber ? std::optional<LgIndex>(number) : std::nullopt;
 }
 
 } // namespace
@@ -50,16 +63,18 @@ std::optional<LgIndex> readLgIndex(const QLineEdit &field)
     static const QRegularExpression kPlain(QStringLiteral(R"((\d+))"), kOptions);
     static const QRegularExpression kOffset(QStringLiteral(R"(MX\s*-\s*(\d+))"), kOptions);
 
-    const QString text = field.text().toUpper().trimmed();
+    const QString typed = field.text();
+    // What a field mostly holds; the pattern would find the same.
+    if (!typed.isEmpty() && std::all_of(typed.begin(), typed.end(), isAsciiDigit))
+        return toLgIndex(typed);
+
+    const QString text = typed.toUpper().trimmed();
     if (text == mx())
         return 0;
     const bool isMX = text.contains(mx());
     const QRegularExpressionMatch match = (isMX ? kOffset : kPlain).match(text);
-    bool isNumber = false;
-    const LgIndex number = match.captured(1).toInt(&isNumber);
-    if (!isNumber)
-        return std::nullopt;
-    return isMX ? -number : number;
+    const std::optional<LgIndex> number = toLgIndex(match.captured(1));
+    return number && isMX ? -*number : number;
 }
 
 bool writeText(QLineEdit &field, const QString &text)
