@@ -135,7 +135,7 @@ std::vector<Case> valueCases()
             [](int id, int call) { ZelGUITextFieldSetDouble(id, call * 0.1, "%.3f"); },
             [](QLineEdit &field, int call) { field.setText(QString::asprintf("%.3f", call * 0.1)); }),
         value<QLineEdit>(
-            "text field: get number", kTextGetter, addField,
+            "text field: get number", kGetter, addField,
             [](int id, int) {
                 double number = 0;
                 ZelGUITextFieldGetDouble(id, &number);
