@@ -53,6 +53,15 @@ Qt::KeyboardModifiers anyModifiers(Random &random)
                                             Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier});
 }
 
+/// The window may be gone when its key is let go.
+void clickKey(QWindow &window, int key, Qt::KeyboardModifiers modifiers, const QString &text)
+{
+    const QPointer<QWindow> guard(&window);
+    qt_handleKeyEvent(&window, QEvent::KeyPress, key, modifiers, text);
+    if (guard)
+        qt_handleKeyEvent(&window, QEvent::KeyRelease, key, modifiers, text);
+}
+
 } // namespace
 
 void User::act(Random &random)
@@ -129,11 +138,7 @@ void User::typeKey(Random &random)
         key = random.between(Qt::Key_Space, Qt::Key_Z);
         text = random.oneIn(8) ? QString(QChar(random.between(0xA0, 0x2100))) : QString(QChar(key)).toLower();
     }
-    const Qt::KeyboardModifiers modifiers = anyModifiers(random);
-    QPointer<QWindow> guard(window);
-    qt_handleKeyEvent(window, QEvent::KeyPress, key, modifiers, text);
-    if (guard)
-        qt_handleKeyEvent(window, QEvent::KeyRelease, key, modifiers, text);
+    clickKey(*window, key, anyModifiers(random), text);
 }
 
 bool User::dismiss()
@@ -148,7 +153,7 @@ bool User::dismiss()
     if (m_pressed && mainWindow())
         sendMouse(window ? *window : *mainWindow(), QEvent::MouseButtonRelease, Qt::MouseButton(int(m_pressed)));
     else if (window)
-        QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
+        clickKey(*window->windowHandle(), Qt::Key_Escape, Qt::NoModifier, QString());
     return window;
 }
 

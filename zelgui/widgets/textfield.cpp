@@ -14,6 +14,10 @@
 #include <QFocusEvent>
 #include <QScopedValueRollback>
 
+#include <optional>
+#include <utility>
+#include <vector>
+
 namespace orvane::zelgui {
 
 namespace {
@@ -74,6 +78,44 @@ public:
 private:
     QPointer<QAbstractButton> m_button;
     Qt::MouseButtons m_pressed;
+};
+
+/// Keeps windows that are about to be deleted while a field reports that another one is to be active. The toolkit goes
+/// on with both, be it a message or a popup menu that has just ended, once the loss has been reported; a loop inside
+/// the callback must not delete them until then.
+class EndedWindows : public QObject
+{
+public:
+    EndedWindows() : m_isOutermost(!std::exchange(s_areKept, true))
+    {
+        if (m_isOutermost)
+            qApp->installEventFilter(this);
+    }
+    ~EndedWindows() override
+    {
+        if (!m_isOutermost)
+            return;
+        s_areKept = false;
+        const auto deleteAll = [windows = std::move(m_windows)] {
+            for (const QPointer<QObject> &window : windows)
+                delete window.data();
+        };
+        QMetaObject::invokeMethod(qApp, deleteAll, Qt::QueuedConnection);
+    }
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        const bool isWindow =
+            object->isWindowType() || (object->isWidgetType() && static_cast<QWidget *>(object)->isWindow());
+        if (event->type() != QEvent::DeferredDelete || !isWindow)
+            return false;
+        m_windows.emplace_back(object);
+        return true;
+    }
+
+private:
+    inline static bool s_areKept = false;
+    const bool m_isOutermost;
+    std::vector<QPointer<QObject>> m_windows;
 };
 
 } // namespace
@@ -161,6 +203,9 @@ void ZelGUITextField::focusOutEvent(QFocusEvent *event)
     if (!isToReport)
         return;
     const InterruptedClick click(reason);
+    std::optional<EndedWindows> endedWindows;
+    if (reason == Qt::ActiveWindowFocusReason)
+        endedWindows.emplace();
     editingFinished();
 }
 
