@@ -10,6 +10,7 @@
 #include <zvsdkdialogs_common_qt/qtdialogabstract.h>
 
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QDialogButtonBox>
 #include <QEventLoop>
 #include <QPushButton>
@@ -191,6 +192,13 @@ void ZelGUIDialog::reject()
 void ZelGUIDialog::closeEvent(QCloseEvent *event)
 {
     event->setAccepted(isDropRequestedBy(leaveCallback()));
+}
+
+/// No menu: over a menu bar the toolkit would offer a "What's This?" that nobody has written. It runs a loop for that,
+/// which never ends if the menu is hidden while it is being shown.
+void ZelGUIDialog::contextMenuEvent(QContextMenuEvent *event)
+{
+    event->ignore();
 }
 
 void ZelGUIDialog::dialogButtonBoxClicked(QAbstractButton *button)
