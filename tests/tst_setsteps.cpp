@@ -75,12 +75,9 @@ protected Q_SLOTS:
     void init();
 
 private Q_SLOTS:
-    void membersAreAddedOneByOne();
-    void notARange();
-    void refusedMember_data();
-    void refusedMember();
+    void read_data();
+    void read();
     void refusedSet();
-    void written_data();
     void written();
     void refusedString();
 
@@ -92,52 +89,47 @@ void tst_SetSteps::init()
 {
     ZelTest::init();
     added.clear();
-    ::refusedMember = 0;
+    refusedMember = 0;
     isSetRefused = false;
     isStringRefused = false;
     m_field = ZelGUITextFieldAdd(createModal(), 100, 100, 1000, 100, nullptr);
 }
 
-void tst_SetSteps::membersAreAddedOneByOne()
+void tst_SetSteps::read_data()
 {
-    ZelGUITextFieldSetString(m_field, "7-9, 2-9:3 5");
+    using Members = QVector<LgIndex>;
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<LgIndex>("refused");
+    QTest::addColumn<bool>("isRead");
+    QTest::addColumn<Members>("expected");
+    const auto row = [](const char *name, const char *text, LgIndex refused, bool isRead, const Members &expected) {
+        QTest::newRow(name) << QByteArray(text) << refused << isRead << expected;
+    };
+    row("one by one", "7-9, 2-9:3 5", 0, true, {7, 8, 9, 2, 5, 8, 5});
+    // The rest of the range is still added; what follows it is not read any more.
+    row("first refused", "1,3-5,8", 3, false, {1, 3, 4, 5});
+    row("middle refused", "1,3-5,8", 4, false, {1, 3, 4, 5});
+    row("last refused", "1,3-5,8", 5, false, {1, 3, 4, 5});
+    // A step of 0 would never come to an end.
+    for (const char *const text : {"0", "-2", "5-3", "1-9:0", "1-9:-1"})
+        row(text, text, 0, false, {});
+}
+
+void tst_SetSteps::read()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(bool, isRead);
+    QFETCH(LgIndex, refused);
+    refusedMember = refused;
+    ZelGUITextFieldSetString(m_field, text.constData());
     IndexSet set = nullptr;
-    QCOMPARE(ZelGUITextFieldGetSet(m_field, &set), 1);
-    QCOMPARE(added, QVector<LgIndex>({7, 8, 9, 2, 5, 8, 5}));
-    QCOMPARE(setsAlive, 1);
-    ZelUtilSetDealloc(&set);
-    QCOMPARE(ZelGUITextFieldGetSet(m_field, nullptr), 1);
-    QCOMPARE(setsAlive, 0);
-}
-
-// A step of 0 would never come to an end.
-void tst_SetSteps::notARange()
-{
-    for (const char *const text : {"0", "-2", "5-3", "1-9:0", "1-9:-1"}) {
-        ZelGUITextFieldSetString(m_field, text);
-        QCOMPARE(ZelGUITextFieldGetSet(m_field, nullptr), 0);
-    }
-    QCOMPARE(added, QVector<LgIndex>());
-}
-
-void tst_SetSteps::refusedMember_data()
-{
-    QTest::addColumn<qint64>("member");
-    QTest::newRow("first") << qint64(3);
-    QTest::newRow("middle") << qint64(4);
-    QTest::newRow("last") << qint64(5);
-}
-
-// The rest of the range is still added; what follows it is not read any more.
-void tst_SetSteps::refusedMember()
-{
-    QFETCH(qint64, member);
-    ::refusedMember = member;
-    ZelGUITextFieldSetString(m_field, "1,3-5,8");
-    IndexSet set = nullptr;
-    QCOMPARE(ZelGUITextFieldGetSet(m_field, &set), 0);
-    QCOMPARE(added, QVector<LgIndex>({1, 3, 4, 5}));
-    QVERIFY(!set);
+    QCOMPARE(bool(ZelGUITextFieldGetSet(m_field, &set)), isRead);
+    QTEST(added, "expected");
+    QCOMPARE(set != nullptr, isRead);
+    QCOMPARE(setsAlive, isRead ? 1 : 0);
+    if (set)
+        ZelUtilSetDealloc(&set);
+    QCOMPARE(bool(ZelGUITextFieldGetSet(m_field, nullptr)), isRead);
     QCOMPARE(setsAlive, 0);
 }
 
@@ -151,22 +143,14 @@ void tst_SetSteps::refusedSet()
     QCOMPARE(setsAlive, 0);
 }
 
-void tst_SetSteps::written_data()
-{
-    QTest::addColumn<QVector<LgIndex>>("members");
-    QTest::addColumn<QString>("text");
-    using Members = QVector<LgIndex>;
-    QTest::newRow("runs and members") << Members({1, 2, 3, 5, 7, 8}) << "1-3,5,7-8";
-    QTest::newRow("a run at the end of all numbers")
-        << Members({1, INT64_MAX - 1, INT64_MAX}) << "1,9223372036854775806-9223372036854775807";
-}
-
 void tst_SetSteps::written()
 {
-    QFETCH(QVector<LgIndex>, members);
-    IndexSet_s set{{members.begin(), members.end()}};
-    ZelGUITextFieldSetSet(m_field, &set, 0);
-    QTEST(object<QLineEdit>(m_field)->text(), "text");
+    IndexSet_s runsAndMembers{{1, 2, 3, 5, 7, 8}};
+    ZelGUITextFieldSetSet(m_field, &runsAndMembers, 0);
+    QCOMPARE(object<QLineEdit>(m_field)->text(), QString("1-3,5,7-8"));
+    IndexSet_s endOfAllNumbers{{1, INT64_MAX - 1, INT64_MAX}};
+    ZelGUITextFieldSetSet(m_field, &endOfAllNumbers, 0);
+    QCOMPARE(object<QLineEdit>(m_field)->text(), QString("1,9223372036854775806-9223372036854775807"));
 }
 
 void tst_SetSteps::refusedString()
