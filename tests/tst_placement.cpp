@@ -22,10 +22,8 @@ protected Q_SLOTS:
     void cleanup();
 
 private Q_SLOTS:
-    void pixels_data();
-    void pixels();
-    void zeroKeepsTheToolkitsChoice_data();
-    void zeroKeepsTheToolkitsChoice();
+    void geometry_data();
+    void geometry();
     void resolution_data();
     void resolution();
     void dialogFrame_data();
@@ -58,50 +56,43 @@ void tst_Placement::cleanup()
     ZelTest::cleanup();
 }
 
-void tst_Placement::pixels_data()
+void tst_Placement::geometry_data()
 {
-    QTest::addColumn<int>("units");
-    QTest::addColumn<int>("across");
-    QTest::addColumn<int>("down");
-    QTest::newRow("smallest") << 1 << 0 << 0;
-    QTest::newRow("rounded up") << 3 << 0 << 1;
-    QTest::newRow("half a pixel rounds down") << 50 << 6 << 12;
-    QTest::newRow("line") << 100 << 11 << 25;
-    QTest::newRow("line and a half") << 150 << 17 << 37;
-    QTest::newRow("wide") << 1000 << 112 << 250;
-    QTest::newRow("beyond what window systems bear") << std::numeric_limits<int>::max() << 32767 << 32767;
-}
-
-void tst_Placement::pixels()
-{
-    QFETCH(int, units);
-    QFETCH(int, across);
-    QFETCH(int, down);
-    const QWidget *const widget = toggleAt(units, units, units, units);
-    QCOMPARE(widget->minimumSize(), QSize(across, down));
-    QCOMPARE(widget->maximumSize(), QSize(across, down));
-    QCOMPARE(widget->pos(), QPoint(across, down));
-}
-
-void tst_Placement::zeroKeepsTheToolkitsChoice_data()
-{
-    QTest::addColumn<QRect>("units");
+    QTest::addColumn<QPoint>("place");
+    QTest::addColumn<QSize>("size");
     QTest::addColumn<QPoint>("position");
     QTest::addColumn<QSize>("fixed");
-    const QSize none(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    QTest::newRow("x is zero") << QRect(0, 50, 100, 100) << QPoint(0, 0) << QSize(11, 25);
-    QTest::newRow("y is negative") << QRect(50, -1, 100, 100) << QPoint(0, 0) << QSize(11, 25);
-    QTest::newRow("no width") << QRect(50, 50, 0, 100) << QPoint(6, 12) << QSize(none.width(), 25);
-    QTest::newRow("negative height") << QRect(50, 50, 100, -7) << QPoint(6, 12) << QSize(11, none.height());
-    QTest::newRow("neither") << QRect(50, 50, 0, 0) << QPoint(6, 12) << none;
+    const auto row = [](const char *name, int units, int across, int down) {
+        QTest::newRow(name) << QPoint(units, units) << QSize(units, units) << QPoint(across, down)
+                            << QSize(across, down);
+    };
+    row("smallest", 1, 0, 0);
+    row("rounded up", 3, 0, 1);
+    row("half a pixel rounds down", 50, 6, 12);
+    row("line", 100, 11, 25);
+    row("line and a half", 150, 17, 37);
+    row("wide", 1000, 112, 250);
+    row("beyond what window systems bear", std::numeric_limits<int>::max(), 32767, 32767);
+    QTest::newRow("x is zero") << QPoint(0, 50) << QSize(100, 100) << QPoint(0, 0) << QSize(11, 25);
+    QTest::newRow("y is negative") << QPoint(50, -1) << QSize(100, 100) << QPoint(0, 0) << QSize(11, 25);
+    // Without a size of its own, the toolkit chooses: -1 here.
+    QTest::newRow("no width") << QPoint(50, 50) << QSize(0, 100) << QPoint(6, 12) << QSize(-1, 25);
+    QTest::newRow("negative height") << QPoint(50, 50) << QSize(100, -7) << QPoint(6, 12) << QSize(11, -1);
+    QTest::newRow("neither") << QPoint(50, 50) << QSize(0, 0) << QPoint(6, 12) << QSize(-1, -1);
 }
 
-void tst_Placement::zeroKeepsTheToolkitsChoice()
+void tst_Placement::geometry()
 {
-    QFETCH(QRect, units);
-    const QWidget *const widget = toggleAt(units.x(), units.y(), units.width(), units.height());
+    QFETCH(QPoint, place);
+    QFETCH(QSize, size);
+    QFETCH(QSize, fixed);
+    const QWidget *const widget = toggleAt(place.x(), place.y(), size.width(), size.height());
     QTEST(widget->pos(), "position");
-    QTEST(widget->maximumSize(), "fixed");
+    const auto orElse = [fixed](int otherwise) {
+        return QSize(fixed.width() < 0 ? otherwise : fixed.width(), fixed.height() < 0 ? otherwise : fixed.height());
+    };
+    QCOMPARE(widget->maximumSize(), orElse(QWIDGETSIZE_MAX));
+    QCOMPARE(widget->minimumSize(), orElse(0));
 }
 
 void tst_Placement::resolution_data()
