@@ -18,14 +18,10 @@ class tst_Containers : public ZelTest
 
 private Q_SLOTS:
     void formShowsOnePage();
-    void tabGeometry();
     void tabReports();
-    void tabReportsAfterSwitchByTheAddOn();
     void tabWithOnePage();
-    void frames_data();
-    void frames();
+    void geometry();
     void framesLieBehind();
-    void separators();
     void widgetsArePlacedInTheirContainer();
 
 private:
@@ -80,43 +76,24 @@ void tst_Containers::formShowsOnePage()
     QCOMPARE(log(), QStringList({"Init"}));
 }
 
-void tst_Containers::tabGeometry()
-{
-    const int dialog = createModal();
-    const int tab = ZelGUITabAdd(dialog, 100, 300, 2500, 500, nullptr, nullptr);
-    const QRect asked = object<QWidget>(ZelGUIToggleAdd(dialog, 100, 300, 2500, 500, "", nullptr))->geometry();
-    QCOMPARE(object<QWidget>(tab)->geometry(), asked.adjusted(0, -25, 0, 0));
-    QCOMPARE(object<QWidget>(tab)->maximumSize(), asked.size() + QSize(0, 25));
-}
-
 void tst_Containers::tabReports()
 {
     const int tab = launchTabs();
     QCOMPARE(object<QTabWidget>(tab)->tabText(1), QString::fromUtf8("Tw\xC3\xB6"));
-    clickTab(tab, 2);
-    clickTab(tab, 2);
-    clickTab(tab, 3);
-    clickTab(tab, 1);
-    QCOMPARE(log(), switched(tab + 1, tab + 2) + switched(tab + 2, tab + 3) + switched(tab + 3, tab + 1));
-}
-
-void tst_Containers::tabReportsAfterSwitchByTheAddOn()
-{
-    const int first = launchTabs();
-    ZelGUITabSetCurrentPage(first, first + 3);
-    QCOMPARE(object<QTabWidget>(first)->currentIndex(), 2);
+    // The add-on's own switches are unheard, so the page that the user leaves is the one that was last reported, or the
+    // first one.
+    ZelGUITabSetCurrentPage(tab, tab + 3);
+    QCOMPARE(object<QTabWidget>(tab)->currentIndex(), 2);
     QCOMPARE(log(), QStringList());
-    clickTab(first, 2);
-    QCOMPARE(log(), switched(first + 1, first + 2));
-
-    const int second = launchTabs();
-    ZelGUITabSetCurrentPage(second, second + 3);
-    clickTab(second, 1);
-    QCOMPARE(log(), switched(second + 1, second + 1));
+    for (const int page : {1, 2, 2, 3})
+        clickTab(tab, page);
+    ZelGUITabSetCurrentPage(tab, tab + 2);
+    clickTab(tab, 1);
     // What was last reported is not reported again, however the page came to be left.
-    ZelGUITabSetCurrentPage(second, second + 2);
-    clickTab(second, 1);
-    QCOMPARE(log().size(), 2);
+    ZelGUITabSetCurrentPage(tab, tab + 2);
+    clickTab(tab, 1);
+    QCOMPARE(log(), switched(tab + 1, tab + 1) + switched(tab + 1, tab + 2) + switched(tab + 2, tab + 3) +
+                        switched(tab + 3, tab + 1));
 }
 
 void tst_Containers::tabWithOnePage()
@@ -130,26 +107,27 @@ void tst_Containers::tabWithOnePage()
     QCOMPARE(log(), QStringList());
 }
 
-void tst_Containers::frames_data()
+void tst_Containers::geometry()
 {
-    QTest::addColumn<QByteArray>("title");
-    QTest::addColumn<int>("room");
-    QTest::newRow("title") << QByteArray("Gr\xC3\xB6\xC3\x9F"
-                                         "e")
-                           << 10;
-    QTest::newRow("empty title") << QByteArray("") << 10;
-    QTest::newRow("no title") << QByteArray() << 0;
-}
-
-void tst_Containers::frames()
-{
-    QFETCH(QByteArray, title);
-    QFETCH(int, room);
     const int dialog = createModal();
-    const int frame = ZelGUIFrameAdd(dialog, 100, 200, 2000, 500, title.isNull() ? nullptr : title.constData());
-    const QRect asked = object<QWidget>(ZelGUIToggleAdd(dialog, 100, 200, 2000, 500, "", nullptr))->geometry();
-    QCOMPARE(object<QWidget>(frame)->geometry(), asked.adjusted(0, -room, 0, 0));
-    QCOMPARE(object<QGroupBox>(frame)->title(), QString::fromUtf8(title));
+    const QRect asked = object<QWidget>(ZelGUIToggleAdd(dialog, 100, 300, 2500, 500, "", nullptr))->geometry();
+    const int tab = ZelGUITabAdd(dialog, 100, 300, 2500, 500, nullptr, nullptr);
+    const int titled = ZelGUIFrameAdd(dialog, 100, 300, 2500, 500, "Gr\xC3\xB6\xC3\x9F");
+    const int vertical = ZelGUIVertSeparatorAdd(dialog, 100, 300, 500);
+    const int horizontal = ZelGUIHorzSeparatorAdd(dialog, 100, 300, 2500);
+    const QVector<QPair<int, QRect>> expected = {
+        {tab, asked.adjusted(0, -25, 0, 0)},
+        {titled, asked.adjusted(0, -10, 0, 0)},
+        {ZelGUIFrameAdd(dialog, 100, 300, 2500, 500, ""), asked.adjusted(0, -10, 0, 0)},
+        {ZelGUIFrameAdd(dialog, 100, 300, 2500, 500, nullptr), asked},
+        {vertical, QRect(asked.topLeft(), QSize(1, asked.height()))},
+        {horizontal, QRect(asked.topLeft(), QSize(asked.width(), 1))}};
+    for (const auto &[id, geometry] : expected)
+        QCOMPARE(object<QWidget>(id)->geometry(), geometry);
+    QCOMPARE(object<QWidget>(tab)->maximumSize(), object<QWidget>(tab)->size());
+    QCOMPARE(object<QGroupBox>(titled)->title(), QString::fromUtf8("Gr\xC3\xB6\xC3\x9F"));
+    QCOMPARE(object<QFrame>(vertical)->frameShape(), QFrame::VLine);
+    QCOMPARE(object<QFrame>(horizontal)->frameShape(), QFrame::HLine);
 }
 
 void tst_Containers::framesLieBehind()
@@ -161,18 +139,6 @@ void tst_Containers::framesLieBehind()
     QWidget *const window = object<QWidget>(dialog);
     const QPoint center = object<QWidget>(button)->geometry().center();
     QCOMPARE(window->childAt(center), object<QWidget>(button));
-}
-
-void tst_Containers::separators()
-{
-    const int dialog = createModal();
-    const auto *const vertical = object<QFrame>(ZelGUIVertSeparatorAdd(dialog, 100, 100, 500));
-    const auto *const horizontal = object<QFrame>(ZelGUIHorzSeparatorAdd(dialog, 100, 100, 1000));
-    const QWidget *const same = object<QWidget>(ZelGUIToggleAdd(dialog, 100, 100, 1000, 500, "", nullptr));
-    QCOMPARE(vertical->frameShape(), QFrame::VLine);
-    QCOMPARE(vertical->geometry(), QRect(same->pos(), QSize(1, same->height())));
-    QCOMPARE(horizontal->frameShape(), QFrame::HLine);
-    QCOMPARE(horizontal->geometry(), QRect(same->pos(), QSize(same->width(), 1)));
 }
 
 void tst_Containers::widgetsArePlacedInTheirContainer()
