@@ -18,7 +18,6 @@ private Q_SLOTS:
     void identifiers();
     void texts();
     void mouse();
-    void toggleByMouse();
     void keyboard_data();
     void keyboard();
     void deletedItem();
@@ -105,16 +104,6 @@ void tst_Menu::mouse()
     QTRY_VERIFY(object<QMenu>(m_subMenu)->isVisible());
     clickEntry(object<QMenu>(m_subMenu), 1);
     QCOMPARE(log(), QStringList({"MenuItem", "Down"}));
-}
-
-void tst_Menu::toggleByMouse()
-{
-    QVERIFY(!object<QAction>(m_toggle)->isChecked());
-    for (int i = 0; i < 2; ++i) {
-        clickTitle(0);
-        clickEntry(object<QMenu>(m_file), 2);
-    }
-    QCOMPARE(log(), QStringList({"MenuToggle 1", "MenuToggle 0"}));
 }
 
 void tst_Menu::keyboard_data()
