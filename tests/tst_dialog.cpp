@@ -231,8 +231,7 @@ void tst_Dialog::launchOfModelessReturnsAtOnce()
     QCOMPARE(log(), QStringList({"Init", "Init"}));
     QTRY_COMPARE(QApplication::activeWindow(), static_cast<QWidget *>(object<QDialog>(id)));
     // Wherever the user has gone since, a launch leads back.
-    mainWindow()->activateWindow();
-    QVERIFY(waitUntilActive(mainWindow()));
+    QVERIFY(activate(mainWindow()));
     RaiseCounter raises(object<QDialog>(id));
     ZelGUIDialogLaunch(id);
     QCOMPARE(raises.count(), 1);

@@ -119,15 +119,16 @@ class tst_MenuBar : public ZelTest
 private Q_SLOTS:
     void initTestCase();
     void room();
-    void barItself_data();
+    void barItself_data() { visibility(); }
     void barItself();
     void innerParts_data();
     void innerParts();
     void popup();
-    void addedLater_data();
+    void addedLater_data() { visibility(); }
     void addedLater();
 
 private:
+    static void visibility();
     void launch(int dialog);
 };
 
@@ -176,7 +177,7 @@ void tst_MenuBar::room()
     QCOMPARE(label->mapTo(window, QPoint()), QPoint(15, 46 + 4 * kBarHeight));
 }
 
-void tst_MenuBar::barItself_data()
+void tst_MenuBar::visibility()
 {
     QTest::addColumn<bool>("isVisible");
     QTest::newRow("before the dialog is shown") << false;
@@ -256,8 +257,7 @@ void tst_MenuBar::innerParts()
         launch(moved);
     if (isDroppedBefore) {
         ZelGUIDialogDrop(moved);
-        mainWindow()->activateWindow();
-        QVERIFY(waitUntilActive(mainWindow()));
+        QVERIFY(activate(mainWindow()));
     }
     for (int i = 0; i < bars; ++i)
         ZelGUIMenuBarAdd(moved);
@@ -299,13 +299,6 @@ void tst_MenuBar::popup()
 }
 
 /// What is added behind the bar has the size that it has in any dialog.
-void tst_MenuBar::addedLater_data()
-{
-    QTest::addColumn<bool>("isVisible");
-    QTest::newRow("before the dialog is shown") << false;
-    QTest::newRow("while it is visible") << true;
-}
-
 void tst_MenuBar::addedLater()
 {
     QFETCH(bool, isVisible);

@@ -145,12 +145,5 @@ void tst_TextField::validateDouble()
     QCOMPARE(taken(ZelGUITextFieldGetString(m_field)), text);
 }
 
-int main(int argc, char **argv)
-{
-    QApplication application(argc, argv);
-    QStringList arguments = QCoreApplication::arguments();
-    tst_TextField test(arguments.removeOne("spin"));
-    return QTest::qExec(&test, arguments);
-}
-
+ZELTEST_SPIN_MAIN(tst_TextField)
 #include "tst_textfield.moc"

@@ -12,41 +12,34 @@
 
 using namespace Callback;
 
-/// When a field reports, and that a rejected text can't be left. Every case is played with a text field and with a spin
-/// text field, in a dialog that also has another field, an option menu and its buttons.
+/// When a field reports, and that a rejected text can't be left. Every case is played with a text field or, called with
+/// "spin", with a spin text field, in a dialog that also has another field, an option menu and its buttons.
 class tst_TextFieldFocus : public ZelTest
 {
     Q_OBJECT
 
+public:
+    explicit tst_TextFieldFocus(bool isSpin) : m_isSpin(isSpin) {}
+
 private Q_SLOTS:
-    void eachEndOfEditingOnce_data() { kinds(); }
     void eachEndOfEditingOnce();
-    void rejectedTextCannotBeLeft_data() { kinds(); }
     void rejectedTextCannotBeLeft();
-    void twoRejectingFields_data() { kinds(); }
     void twoRejectingFields();
-    void cancelTakesOneClick_data() { kinds(); }
     void cancelTakesOneClick();
-    void goneWithItsDialog_data() { kinds(); }
     void goneWithItsDialog();
-    void callbackShowsAMessage_data() { kinds(); }
     void callbackShowsAMessage();
-    void hiddenOrDisabled_data() { kinds(); }
     void hiddenOrDisabled();
-    void popups_data() { kinds(); }
     void popups();
-    void otherWindow_data() { kinds(); }
     void otherWindow();
-    void rejectedTextBeforeOtherWindow_data() { kinds(); }
     void rejectedTextBeforeOtherWindow();
 
 private:
-    static void kinds();
-    /// Opens the dialog with a field of the row's kind, which has the focus and the text "bad".
+    /// Opens the dialog with the field, which has the focus and the text "bad".
     void open();
     bool hasFocus() const { return QApplication::focusWidget() == m_widget; }
     bool isAllSelected() const { return m_edit->selectedText() == m_edit->text() && !m_edit->text().isEmpty(); }
 
+    bool m_isSpin;
     int m_dialog = -2;
     int m_other = -2;
     QDialog *m_window = nullptr;
@@ -56,26 +49,19 @@ private:
     QComboBox *m_menu = nullptr;
 };
 
-void tst_TextFieldFocus::kinds()
-{
-    QTest::addColumn<bool>("isSpin");
-    QTest::newRow("text field") << false;
-    QTest::newRow("spin text field") << true;
-}
-
 void tst_TextFieldFocus::open()
 {
-    QFETCH(bool, isSpin);
     log().clear();
     m_dialog = ZelGUIDialogCreateModeless(ZELGUI_MAIN_WINDOW, 4000, 1000, "", nullptr, report<Close>, nullptr);
     ZelGUIDialogAddButtonToButtonBox(m_dialog, "Default", 1, report<Extra>);
-    const int field = isSpin ? ZelGUISpinTextFieldAdd(m_dialog, 100, 100, 1000, 130, reportText<Text>, nullptr, nullptr)
-                             : ZelGUITextFieldAdd(m_dialog, 100, 100, 1000, 130, reportText<Text>);
+    const int field = m_isSpin
+                          ? ZelGUISpinTextFieldAdd(m_dialog, 100, 100, 1000, 130, reportText<Text>, nullptr, nullptr)
+                          : ZelGUITextFieldAdd(m_dialog, 100, 100, 1000, 130, reportText<Text>);
     m_other = ZelGUITextFieldAdd(m_dialog, 100, 300, 1000, 130, reportText<OtherText>);
     const int menu = ZelGUIOptionMenuAdd(m_dialog, 100, 500, 1000, 130, "A,B", reportInt<Option>);
     m_window = object<QDialog>(m_dialog);
     m_widget = object<QWidget>(field);
-    m_edit = isSpin ? m_widget->findChild<QLineEdit *>() : object<QLineEdit>(field);
+    m_edit = m_isSpin ? m_widget->findChild<QLineEdit *>() : object<QLineEdit>(field);
     m_menu = object<QComboBox>(menu);
     ZelGUIDialogLaunch(m_dialog);
     QVERIFY(waitUntilActive(m_window));
@@ -114,13 +100,11 @@ void tst_TextFieldFocus::rejectedTextCannotBeLeft()
     };
     // Edited, not edited, by every way out, again and again.
     for (int i = 0; i < 2; ++i) {
-        QTest::keyClick(m_widget, Qt::Key_Tab);
-        rejected("bad");
-        QTest::keyClick(m_widget, Qt::Key_Return);
-        rejected("bad");
+        for (const auto key : {Qt::Key_Tab, Qt::Key_Return, Qt::Key_Backtab}) {
+            QTest::keyClick(m_widget, key);
+            rejected("bad");
+        }
         QTest::mouseClick(object<QWidget>(m_other), Qt::LeftButton);
-        rejected("bad");
-        QTest::keyClick(m_widget, Qt::Key_Backtab);
         rejected("bad");
     }
     QTest::keyClicks(m_widget, "worse");
@@ -242,8 +226,7 @@ void tst_TextFieldFocus::popups()
         const QStringList before = log();
         QApplication::activePopupWidget()->close();
         QVERIFY(QTest::qWaitFor([] { return !QApplication::activePopupWidget(); }));
-        m_window->activateWindow();
-        QVERIFY(waitUntilActive(m_window));
+        QVERIFY(activate(m_window));
         m_widget->setFocus();
         // What the platform still has to say about its windows is nothing to do with what comes next.
         QTest::qWait(20);
@@ -287,11 +270,9 @@ void tst_TextFieldFocus::popups()
 void tst_TextFieldFocus::otherWindow()
 {
     open();
-    mainWindow()->activateWindow();
-    QVERIFY(waitUntilActive(mainWindow()));
+    QVERIFY(activate(mainWindow()));
     QCOMPARE(log(), QStringList({"Text bad"}));
-    m_window->activateWindow();
-    QVERIFY(waitUntilActive(m_window));
+    QVERIFY(activate(m_window));
     QVERIFY(hasFocus());
     QTest::keyClick(m_widget, Qt::Key_Tab);
     QCOMPARE(log(), QStringList({"Text bad", "Text bad"}));
@@ -305,13 +286,11 @@ void tst_TextFieldFocus::rejectedTextBeforeOtherWindow()
     QTest::keyClick(m_widget, Qt::Key_Return);
     const auto leave = [this] {
         log().clear();
-        mainWindow()->activateWindow();
-        QVERIFY(waitUntilActive(mainWindow()));
+        QVERIFY(activate(mainWindow()));
     };
     leave();
     QCOMPARE(log(), QStringList());
-    m_window->activateWindow();
-    QVERIFY(waitUntilActive(m_window));
+    QVERIFY(activate(m_window));
     QTest::keyClicks(m_widget, "x");
     leave();
     QCOMPARE(log(), QStringList({"Text x"}));
@@ -326,5 +305,5 @@ void tst_TextFieldFocus::rejectedTextBeforeOtherWindow()
     QCOMPARE(log(), QStringList({"Text bad"}));
 }
 
-ZELTEST_MAIN(tst_TextFieldFocus)
+ZELTEST_SPIN_MAIN(tst_TextFieldFocus)
 #include "tst_textfieldfocus.moc"

@@ -105,6 +105,12 @@ bool ZelTest::waitUntilActive(const QWidget *window)
     return QTest::qWaitFor([window] { return QApplication::activeWindow() == window; });
 }
 
+bool ZelTest::activate(QWidget *window)
+{
+    window->activateWindow();
+    return waitUntilActive(window);
+}
+
 int ZelTest::createModal(int parent)
 {
     using namespace Callback;

@@ -107,6 +107,7 @@ public:
     static int createModeless(int parent = ZELGUI_MAIN_WINDOW);
     /// Waits until a window is the active one; a window is not, for the toolkit's tests, if only its parent is.
     static bool waitUntilActive(const QWidget *window);
+    static bool activate(QWidget *window);
 
     /// A visible and active modeless dialog. What is added to it has to be shown.
     int launchModeless();
@@ -143,6 +144,16 @@ private:
         QApplication application(argc, argv);                                                                          \
         Test test;                                                                                                     \
         return QTest::qExec(&test, argc, argv);                                                                        \
+    }
+
+/// The same for a test of what text fields and spin text fields have in common: called with "spin", it is about those.
+#define ZELTEST_SPIN_MAIN(Test)                                                                                        \
+    int main(int argc, char **argv)                                                                                    \
+    {                                                                                                                  \
+        QApplication application(argc, argv);                                                                          \
+        QStringList arguments = QCoreApplication::arguments();                                                         \
+        Test test(arguments.removeOne(QStringLiteral("spin")));                                                        \
+        return QTest::qExec(&test, arguments);                                                                         \
     }
 
 #endif
