@@ -17,6 +17,19 @@ QString module(const char *name)
     return QStringLiteral(MODULE_PATTERN).arg(QLatin1String(name));
 }
 
+QString text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+QStringList command(const QByteArray &line)
+{
+    QStringList words;
+    for (const QByteArray &word : line.split(' '))
+        words << (word.startsWith('%') ? module(word.constData() + 1) : text(word.constData()));
+    return words;
+}
+
 Outcome runHost(const QStringList &arguments, const QProcessEnvironment &environment)
 {
     QProcess host;

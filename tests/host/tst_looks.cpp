@@ -30,8 +30,7 @@ private:
 
 void tst_Looks::initTestCase()
 {
-    m_inspection = runHost({QStringLiteral("--style"), QStringLiteral("Fusion"), QStringLiteral("--inspect"),
-                            m_directory.path(), module("looks")});
+    m_inspection = runHost(command("--style Fusion %looks --inspect") << m_directory.path());
     QCOMPARE(m_inspection.errors, QStringList());
     QCOMPARE(m_inspection.exitCode, 5);
 }
@@ -90,18 +89,17 @@ void tst_Looks::everyPageHasItsPicture()
 
 void tst_Looks::addOnHearsNothing()
 {
-    const QStringList heard = m_inspection.output.filter(QStringLiteral("heard of"));
+    const QStringList heard = m_inspection.output.filter(text("heard of"));
     // Closing the dialog takes the focus away.
-    QVERIFY2(heard.filter(QStringLiteral("page")).isEmpty(), qPrintable(heard.join(QLatin1Char(' '))));
+    QVERIFY2(heard.filter(text("page")).isEmpty(), qPrintable(heard.join(QLatin1Char(' '))));
     QVERIFY2(heard.size() <= 1, qPrintable(heard.join(QLatin1Char(' '))));
-    QVERIFY(m_inspection.output.contains(QStringLiteral("page 0, focus 1")));
+    QVERIFY(m_inspection.output.contains(text("page 0, focus 1")));
 }
 
 void tst_Looks::goodOnesAreClean()
 {
     const QTemporaryDir directory;
-    const Outcome outcome = runHost({QStringLiteral("--inspect"), directory.path(), QStringLiteral("--launch"),
-                                     QStringLiteral("Good"), module("looks")});
+    const Outcome outcome = runHost(command("--launch Good %looks --inspect") << directory.path());
     QCOMPARE(outcome.exitCode, 0);
     QCOMPARE(outcome.output, QStringList());
 }
@@ -109,25 +107,23 @@ void tst_Looks::goodOnesAreClean()
 void tst_Looks::sweepShowsAndCounts()
 {
     const QTemporaryDir parent;
-    const QDir directory(parent.filePath(QStringLiteral("a & b")));
-    const Outcome outcome =
-        runHost({QStringLiteral("--sweep"), directory.path(), QStringLiteral("--style"), QStringLiteral("Fusion"),
-                 QStringLiteral("--font"), QStringLiteral("Sans,10"), QStringLiteral("--launch"),
-                 QStringLiteral("Good"), QStringLiteral("--launch"), QStringLiteral("Narrow label"), module("looks")});
+    const QDir directory(parent.filePath(text("a & b")));
+    const Outcome outcome = runHost(command("--style Fusion --font Sans,10 --launch Good %looks --sweep")
+                                    << directory.path() << text("--launch") << text("Narrow label"));
     QCOMPARE(outcome.errors, QStringList());
     QCOMPARE(outcome.exitCode, 5);
     // Two resolutions, of which these dialogs know nothing.
     QCOMPARE(outcome.output.size(), 2);
     QVERIFY(outcome.output[0].startsWith(QLatin1String("Narrow label (Fusion, Sans 10, 96x96 dpi): ")));
 
-    QFile file(directory.filePath(QStringLiteral("index.html")));
+    QFile file(directory.filePath(text("index.html")));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QString html = QString::fromUtf8(file.readAll());
     QCOMPARE(html.count(QLatin1String("<section")), 3);
     QCOMPARE(html.count(QLatin1String("<section class=\"bad\"")), 1);
     QCOMPARE(html.count(QLatin1String("<figure class=\"bad\"")), 2);
     QVERIFY(!html.contains(QLatin1String("<script")));
-    auto images = QRegularExpression(QStringLiteral("<img src=\"([^\"]*)\"")).globalMatch(html);
+    auto images = QRegularExpression(text("<img src=\"([^\"]*)\"")).globalMatch(html);
     int count = 0;
     for (; images.hasNext(); ++count) {
         const QString picture = QUrl::fromPercentEncoding(images.next().captured(1).toLatin1());
@@ -139,9 +135,7 @@ void tst_Looks::sweepShowsAndCounts()
 void tst_Looks::sweepReportsWhatItCannotLookAt()
 {
     const QTemporaryDir directory;
-    const Outcome outcome =
-        runHost({QStringLiteral("--sweep"), directory.path(), QStringLiteral("--style"), QStringLiteral("Fusion"),
-                 QStringLiteral("--font"), QStringLiteral("Sans,10"), module("silent")});
+    const Outcome outcome = runHost(command("--style Fusion --font Sans,10 %silent --sweep") << directory.path());
     QCOMPARE(outcome.exitCode, 1);
     const QString errors = outcome.errors.join(QLatin1Char('\n'));
     QVERIFY2(errors.contains(QLatin1String("x96 dpi and 1 more: ")), qPrintable(errors));

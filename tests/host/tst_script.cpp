@@ -17,11 +17,6 @@ struct Played
     QString errors;
 };
 
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
 } // namespace
 
 class TestScript : public QObject

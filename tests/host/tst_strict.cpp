@@ -28,7 +28,7 @@ class TestStrict : public QObject
 private Q_SLOTS:
     void misuseIsNamed_data();
     void misuseIsNamed();
-    void validUseIsNot_data();
+    void validUseIsNot_data() { misuseIsNamed_data(); }
     void validUseIsNot();
     void everyDialogOfTheExamplesIsClean();
     void withoutGuiIdentifiersMeanNothing_data();
@@ -44,9 +44,9 @@ private:
 Outcome TestStrict::runEntries(const QString &file, const QStringList &entries, const QStringList &options)
 {
     const QTemporaryDir directory;
-    QStringList arguments = QStringList{QStringLiteral("--strict"), QStringLiteral("--render"), directory.path(), file};
+    QStringList arguments = command("--strict --render") << directory.path() << file;
     for (const QString &entry : entries)
-        arguments += {QStringLiteral("--launch"), entry};
+        arguments += {text("--launch"), entry};
     return runHost(arguments + options);
 }
 
@@ -54,37 +54,38 @@ void TestStrict::misuseIsNamed_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QStringList>("expected");
-    const auto row = [](const char *file, const QStringList &expected) {
-        QTest::newRow(file) << misuse(file) << expected;
+    const auto row = [](const char *file, std::initializer_list<const char *> expected) {
+        QStringList lines;
+        for (const char *const line : expected)
+            lines << text(line);
+        QTest::newRow(file) << misuse(file) << lines;
     };
-    const auto s = [](const char *text) { return QString::fromUtf8(text); };
 
     row("unknown",
-        {s("ZelGUILabelSetText: labelId 99 names nothing that was created; pass what ZelGUILabelAdd"),
-         s("ZelGUILabelAdd: parentId -1 is the main window instead of a dialog or a page"),
-         s("ZelGUISetSensitivity: id is ZELGUI_INVALID_ID, so it names nothing; pass what a creating function")});
-    row("wrongkind", {s("ZelGUIListGetItemCount: listId 1 is a label instead of a list; pass what ZelGUIListAdd")});
-    row("destroyed", {s("ZelGUILabelSetText: labelId 1 is a label that was destroyed")});
-    row("utf8", {s("ZelGUIButtonAdd: label \"Größe\" is UTF-8, but read as Latin-1; convert it to Latin-1"),
-                 s("ZelGUIListSetItems: items \"Straße\" is UTF-8, but read as Latin-1; convert it to Latin-1")});
-    row("latin1", {s("ZelGUILabelAdd: text \"Größe\" is not UTF-8, but read as UTF-8; convert it to UTF-8")});
-    row("format", {s("ZelGUILabelSetDouble: format \"%d\" is none for one number; use exactly one"),
-                   s("ZelGUILabelSetDouble: format \"%.2f of %.2f\" is none for one number; use exactly one")});
-    row("position", {s("ZelGUIListSetSelectedItem: position 1 is none of 0 items; there is none to name yet"),
-                     s("ZelGUIListGetString: position 0 is none of 1 items; positions count from 1"),
-                     s("ZelGUIListSetSelectedItems: positions 2 is none of 1 items; positions count from 1"),
-                     s("ZelGUIOptionMenuSet: position 4 is none of 3 items; positions count from 1"),
-                     s("ZelGUIRadioBoxSetToggle: position 4 is none of 3 items; positions count from 1")});
-    row("unreleased",
-        {s("ZelGUIListGetSelectedItems: 1 of its results not released; pass each to ZelUtilStringDealloc"),
-         s("ZelGUITextFieldGetSet: 1 of its results not released; pass each to ZelUtilSetDealloc"),
-         s("ZelGUITextFieldGetString: 2 of its results not released; pass each to ZelUtilStringDealloc"),
-         s("ZelUtilStringListAlloc: 1 of its results not released; pass each to ZelUtilStringListDealloc")});
-    row("releasedtwice", {s("ZelUtilStringDealloc: this was released before; release a thing once"),
-                          s("ZelUtilStringDealloc: this is not what the function releases; pass what the host")});
-    row("createdagain", {s("ZelGUIDialogCreateModeless: creates a dialog again that is there already, as 0; create")});
-    row("addedagain", {s("ZelGUILabelAdd: creates a label again that is there already, as 1; create it once, with")});
-    row("outside", {s("ZelGUIButtonAdd: 1 reaches "), s("ZelGUIListAdd: 3 reaches ")});
+        {"ZelGUILabelSetText: labelId 99 names nothing that was created; pass what ZelGUILabelAdd",
+         "ZelGUILabelAdd: parentId -1 is the main window instead of a dialog or a page",
+         "ZelGUISetSensitivity: id is ZELGUI_INVALID_ID, so it names nothing; pass what a creating function"});
+    row("wrongkind", {"ZelGUIListGetItemCount: listId 1 is a label instead of a list; pass what ZelGUIListAdd"});
+    row("destroyed", {"ZelGUILabelSetText: labelId 1 is a label that was destroyed"});
+    row("utf8", {"ZelGUIButtonAdd: label \"Größe\" is UTF-8, but read as Latin-1; convert it to Latin-1",
+                 "ZelGUIListSetItems: items \"Straße\" is UTF-8, but read as Latin-1; convert it to Latin-1"});
+    row("latin1", {"ZelGUILabelAdd: text \"Größe\" is not UTF-8, but read as UTF-8; convert it to UTF-8"});
+    row("format", {"ZelGUILabelSetDouble: format \"%d\" is none for one number; use exactly one",
+                   "ZelGUILabelSetDouble: format \"%.2f of %.2f\" is none for one number; use exactly one"});
+    row("position", {"ZelGUIListSetSelectedItem: position 1 is none of 0 items; there is none to name yet",
+                     "ZelGUIListGetString: position 0 is none of 1 items; positions count from 1",
+                     "ZelGUIListSetSelectedItems: positions 2 is none of 1 items; positions count from 1",
+                     "ZelGUIOptionMenuSet: position 4 is none of 3 items; positions count from 1",
+                     "ZelGUIRadioBoxSetToggle: position 4 is none of 3 items; positions count from 1"});
+    row("unreleased", {"ZelGUIListGetSelectedItems: 1 of its results not released; pass each to ZelUtilStringDealloc",
+                       "ZelGUITextFieldGetSet: 1 of its results not released; pass each to ZelUtilSetDealloc",
+                       "ZelGUITextFieldGetString: 2 of its results not released; pass each to ZelUtilStringDealloc",
+                       "ZelUtilStringListAlloc: 1 of its results not released; pass each to ZelUtilStringListDealloc"});
+    row("releasedtwice", {"ZelUtilStringDealloc: this was released before; release a thing once",
+                          "ZelUtilStringDealloc: this is not what the function releases; pass what the host"});
+    row("createdagain", {"ZelGUIDialogCreateModeless: creates a dialog again that is there already, as 0; create"});
+    row("addedagain", {"ZelGUILabelAdd: creates a label again that is there already, as 1; create it once, with"});
+    row("outside", {"ZelGUIButtonAdd: 1 reaches ", "ZelGUIListAdd: 3 reaches "});
 }
 
 void TestStrict::misuseIsNamed()
@@ -93,18 +94,10 @@ void TestStrict::misuseIsNamed()
     QFETCH(const QStringList, expected);
     const Outcome outcome = runEntries(file, launches(file, "Wrong"));
     for (int i = 0; i < std::max(outcome.errors.size(), expected.size()); ++i) {
-        const QString text = QStringLiteral("zelhost: misuse: Wrong: ") + expected.value(i);
-        QVERIFY2(outcome.errors.value(i).startsWith(text) && i < expected.size(), qPrintable(outcome.errors.value(i)));
+        const QString line = text("zelhost: misuse: Wrong: ") + expected.value(i);
+        QVERIFY2(outcome.errors.value(i).startsWith(line) && i < expected.size(), qPrintable(outcome.errors.value(i)));
     }
     QCOMPARE(outcome.exitCode, 4);
-}
-
-void TestStrict::validUseIsNot_data()
-{
-    QTest::addColumn<QString>("file");
-    for (const char *file : {"unknown", "wrongkind", "destroyed", "utf8", "latin1", "format", "position", "unreleased",
-                             "releasedtwice", "createdagain", "addedagain", "outside"})
-        QTest::newRow(file) << misuse(file);
 }
 
 void TestStrict::validUseIsNot()
@@ -117,8 +110,7 @@ void TestStrict::validUseIsNot()
 
 void TestStrict::everyDialogOfTheExamplesIsClean()
 {
-    const Outcome outcome = runEntries(
-        QStringLiteral(HELLO), {}, {QStringLiteral(GALLERY), QStringLiteral(STREAMLINES), QStringLiteral(CONTOURS)});
+    const Outcome outcome = runEntries(text(HELLO), {}, {text(GALLERY), text(STREAMLINES), text(CONTOURS)});
     QCOMPARE(outcome.errors, QStringList());
     QCOMPARE(outcome.exitCode, 0);
 }
@@ -133,10 +125,7 @@ void TestStrict::withoutGuiIdentifiersMeanNothing_data()
 void TestStrict::withoutGuiIdentifiersMeanNothing()
 {
     QFETCH(const QString, file);
-    const QString entry = QStringLiteral("Wrong");
-    const QString launch = QStringLiteral("--launch");
-    const Outcome outcome =
-        runHost({QStringLiteral("--strict"), QStringLiteral("--batch"), launch, entry, launch, entry, file});
+    const Outcome outcome = runHost(command("--strict --batch --launch Wrong --launch Wrong") << file);
     QCOMPARE(outcome.errors, QStringList());
     QCOMPARE(outcome.exitCode, 0);
 }
@@ -145,16 +134,15 @@ void TestStrict::otherErrorsKeepTheirExitCode_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<int>("exitCode");
-    QTest::newRow("leaks give way") << QStringList{QStringLiteral("--report-leaks")} << 4;
-    QTest::newRow("an add-on without dialog")
-        << QStringList{module("silent"), QStringLiteral("--launch"), QStringLiteral("Silent")} << 1;
+    QTest::newRow("leaks give way") << QStringList{text("--report-leaks")} << 4;
+    QTest::newRow("an add-on without dialog") << command("%silent --launch Silent") << 1;
 }
 
 void TestStrict::otherErrorsKeepTheirExitCode()
 {
     QFETCH(const QStringList, options);
     QFETCH(const int, exitCode);
-    const Outcome outcome = runEntries(misuse("unreleased"), {QStringLiteral("Wrong")}, options);
+    const Outcome outcome = runEntries(misuse("unreleased"), {text("Wrong")}, options);
     QCOMPARE(outcome.exitCode, exitCode);
 }
 

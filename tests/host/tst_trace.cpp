@@ -23,11 +23,9 @@ void TestTrace::linesTellTheCalls_data()
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("expected");
     QTest::newRow("modal dialog that is closed")
-        << QStringLiteral(HELLO) << QStringList{QStringLiteral("--render"), QStringLiteral("%1")}
-        << QStringLiteral("hello.txt");
+        << text(HELLO) << QStringList{text("--render"), text("%1")} << text("hello.txt");
     QTest::newRow("values of every kind, and an exception")
-        << module("traced") << QStringList{QStringLiteral("--launch"), QStringLiteral("Traced")}
-        << QStringLiteral("values.txt");
+        << module("traced") << command("--launch Traced") << text("values.txt");
 }
 
 void TestTrace::linesTellTheCalls()
@@ -36,14 +34,14 @@ void TestTrace::linesTellTheCalls()
     QFETCH(QStringList, options);
     QFETCH(const QString, expected);
     const QTemporaryDir directory;
-    options.replaceInStrings(QStringLiteral("%1"), directory.path());
-    QFile file(QStringLiteral(TRACES) + QLatin1Char('/') + expected);
+    options.replaceInStrings(text("%1"), directory.path());
+    QFile file(text(TRACES) + QLatin1Char('/') + expected);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QStringList expectedLines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    const Outcome outcome = runHost(QStringList{QStringLiteral("--trace"), addOn} + options, environment);
+    environment.insert(text("LC_ALL"), text("C.UTF-8"));
+    const Outcome outcome = runHost(QStringList{text("--trace"), addOn} + options, environment);
     for (int i = 0; i < std::max(expectedLines.size(), outcome.errors.size()); ++i)
         QCOMPARE(outcome.errors.value(i), expectedLines.value(i));
     QCOMPARE(outcome.exitCode, 0);
@@ -53,10 +51,8 @@ void TestTrace::linesTellTheCalls()
 void TestTrace::addOnsAreNamed()
 {
     const QTemporaryDir directory;
-    const Outcome outcome =
-        runHost({QStringLiteral("--trace"), QStringLiteral("--render"), directory.path(), QStringLiteral("--launch"),
-                 QStringLiteral("Toggles"), QStringLiteral("--launch"), QStringLiteral("Hello"),
-                 QStringLiteral("--launch"), QStringLiteral("Scales"), QStringLiteral(GALLERY), QStringLiteral(HELLO)});
+    const Outcome outcome = runHost(command("--trace --launch Toggles --launch Hello --launch Scales --render")
+                                    << directory.path() << text(GALLERY) << text(HELLO));
     QCOMPARE(outcome.exitCode, 0);
     QStringList names;
     for (const QString &line : outcome.errors) {
@@ -64,7 +60,7 @@ void TestTrace::addOnsAreNamed()
         if (names.isEmpty() || names.constLast() != name)
             names.append(name);
     }
-    QCOMPARE(names, QStringList({QStringLiteral("Toggles"), QStringLiteral("Hello"), QStringLiteral("Scales")}));
+    QCOMPARE(names, QStringList({text("Toggles"), text("Hello"), text("Scales")}));
 }
 
 void TestTrace::layerIsLoadedOnDemandOnly_data()
@@ -72,16 +68,15 @@ void TestTrace::layerIsLoadedOnDemandOnly_data()
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<bool>("isLoaded");
     QTest::newRow("no option") << QStringList() << false;
-    QTest::newRow("--trace") << QStringList{QStringLiteral("--trace")} << true;
-    QTest::newRow("--strict") << QStringList{QStringLiteral("--strict")} << true;
+    QTest::newRow("--trace") << QStringList{text("--trace")} << true;
+    QTest::newRow("--strict") << QStringList{text("--strict")} << true;
 }
 
 void TestTrace::layerIsLoadedOnDemandOnly()
 {
     QFETCH(const QStringList, options);
     QFETCH(const bool, isLoaded);
-    const Outcome outcome = runHost(options + QStringList{QStringLiteral("--batch"), QStringLiteral("--launch"),
-                                                          QStringLiteral("Maps"), module("maps")});
+    const Outcome outcome = runHost(options + command("--batch --launch Maps %maps"));
     QCOMPARE(outcome.exitCode, 0);
     QCOMPARE(outcome.output.contains(QLatin1String("libzelgui-trace.so")), isLoaded);
     QVERIFY(!outcome.output.filter(QLatin1String("libzelgui.so")).isEmpty());
