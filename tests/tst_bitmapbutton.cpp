@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QPushButton>
@@ -33,21 +34,14 @@ private Q_SLOTS:
 
 void tst_BitmapButton::pixels_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<int>("useKey");
-    QTest::addColumn<QVector<QRgb>>("pixels");
+    const Rows<QSize, QByteArray, int, QVector<QRgb>> row("size", "data", "useKey", "pixels");
     const QByteArray redBlue(reinterpret_cast<const char *>(kRedBlue), sizeof kRedBlue);
     const QByteArray keys(reinterpret_cast<const char *>(kKeys), sizeof kKeys);
-    using Pixels = QVector<QRgb>;
-    QTest::newRow("a row") << QSize(2, 1) << redBlue << 0 << Pixels({0xffff0000, 0xff0000ff});
-    QTest::newRow("a column") << QSize(1, 2) << redBlue << 0 << Pixels({0xffff0000, 0xff0000ff});
-    QTest::newRow("only the key is transparent")
-        << QSize(2, 2) << keys << 1 << Pixels({0x00000000, 0xfffe00ff, 0xffff01ff, 0xffff00fe});
-    QTest::newRow("key not used") << QSize(2, 2) << keys << 0
-                                  << Pixels({0xffff00ff, 0xfffe00ff, 0xffff01ff, 0xffff00fe});
-    QTest::newRow("key used by 1 only") << QSize(2, 2) << keys << 2
-                                        << Pixels({0xffff00ff, 0xfffe00ff, 0xffff01ff, 0xffff00fe});
+    row("a row", {2, 1}, redBlue, 0, {0xffff0000, 0xff0000ff});
+    row("a column", {1, 2}, redBlue, 0, {0xffff0000, 0xff0000ff});
+    row("only the key is transparent", {2, 2}, keys, 1, {0x00000000, 0xfffe00ff, 0xffff01ff, 0xffff00fe});
+    row("key not used", {2, 2}, keys, 0, {0xffff00ff, 0xfffe00ff, 0xffff01ff, 0xffff00fe});
+    row("key used by 1 only", {2, 2}, keys, 2, {0xffff00ff, 0xfffe00ff, 0xffff01ff, 0xffff00fe});
 }
 
 void tst_BitmapButton::pixels()
@@ -75,12 +69,11 @@ void tst_BitmapButton::pixels()
 
 void tst_BitmapButton::noPicture_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<bool>("hasData");
-    QTest::newRow("no data") << QSize(2, 1) << false;
-    QTest::newRow("no width") << QSize(0, 1) << true;
-    QTest::newRow("negative height") << QSize(2, -1) << true;
-    QTest::newRow("too large for any memory") << QSize(1 << 30, 1 << 30) << true;
+    const Rows<QSize, bool> row("size", "hasData");
+    row("no data", {2, 1}, false);
+    row("no width", {0, 1}, true);
+    row("negative height", {2, -1}, true);
+    row("too large for any memory", {1 << 30, 1 << 30}, true);
 }
 
 void tst_BitmapButton::noPicture()

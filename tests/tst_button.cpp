@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QDialog>
@@ -19,7 +20,6 @@ private Q_SLOTS:
     void label();
     void height_data();
     void height();
-    void userActions();
     void enterPressesOnlyTheDefault();
     void color_data();
     void color();
@@ -36,21 +36,13 @@ void tst_Button::init()
 
 void tst_Button::label_data()
 {
-    QTest::addColumn<QByteArray>("label");
-    QTest::addColumn<QString>("added");
-    QTest::addColumn<QString>("set");
-    QTest::newRow("plain") << QByteArray("OK") << "OK"
-                           << "OK";
-    QTest::newRow("blanks around") << QByteArray("  OK  ") << "OK"
-                                   << "  OK  ";
-    QTest::newRow("blanks inside") << QByteArray("\t\r\n\v\fa  b\n") << "a  b"
-                                   << "\t\r\n\v\fa  b\n";
-    QTest::newRow("white space only") << QByteArray(" \t ") << ""
-                                      << " \t ";
-    QTest::newRow("mnemonic") << QByteArray("Save &As") << "Save &As"
-                              << "Save &As";
-    QTest::newRow("Latin-1") << QByteArray("\xC4ndern") << QString::fromUtf8("\xC3\x84ndern")
-                             << QString::fromUtf8("\xC3\x84ndern");
+    const Rows<QByteArray, QString, QString> row("label", "added", "set");
+    row("plain", "OK", "OK", "OK");
+    row("blanks around", "  OK  ", "OK", "  OK  ");
+    row("blanks inside", "\t\r\n\v\fa  b\n", "a  b", "\t\r\n\v\fa  b\n");
+    row("white space only", " \t ", "", " \t ");
+    row("mnemonic", "Save &As", "Save &As", "Save &As");
+    row("Latin-1", "\xC4ndern", "\xC3\x84ndern", "\xC3\x84ndern");
 }
 
 void tst_Button::label()
@@ -64,13 +56,12 @@ void tst_Button::label()
 
 void tst_Button::height_data()
 {
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("asToggle");
-    QTest::newRow("a line") << 100 << 110;
-    QTest::newRow("truncated") << 3 << 3;
-    QTest::newRow("largest") << std::numeric_limits<int>::max() << std::numeric_limits<int>::max();
-    QTest::newRow("left to the toolkit") << 0 << 0;
-    QTest::newRow("least") << std::numeric_limits<int>::min() << 0;
+    const Rows<int, int> row("height", "asToggle");
+    row("a line", 100, 110);
+    row("truncated", 3, 3);
+    row("largest", std::numeric_limits<int>::max(), std::numeric_limits<int>::max());
+    row("left to the toolkit", 0, 0);
+    row("least", std::numeric_limits<int>::min(), 0);
 }
 
 void tst_Button::height()
@@ -80,22 +71,6 @@ void tst_Button::height()
     const int button = ZelGUIButtonAdd(m_dialog, 100, 100, 1000, height, "", nullptr);
     const int toggle = ZelGUIToggleAdd(m_dialog, 100, 100, 1000, asToggle, "", nullptr);
     QCOMPARE(object<QWidget>(button)->maximumHeight(), object<QWidget>(toggle)->maximumHeight());
-}
-
-void tst_Button::userActions()
-{
-    const int id = ZelGUIButtonAdd(m_dialog, 100, 100, 1000, 100, "&Push", report<Push>);
-    QPushButton *const button = object<QPushButton>(id);
-    button->show();
-    QTest::mouseClick(button, Qt::LeftButton);
-    QTest::keyClick(button, Qt::Key_Space);
-    QTest::mouseClick(button, Qt::RightButton);
-    QCOMPARE(log(), QStringList({"Push", "Push"}));
-
-    QPushButton *const silent = object<QPushButton>(ZelGUIButtonAdd(m_dialog, 100, 400, 1000, 100, "", nullptr));
-    silent->show();
-    QTest::mouseClick(silent, Qt::LeftButton);
-    QCOMPARE(log().size(), 2);
 }
 
 void tst_Button::enterPressesOnlyTheDefault()
@@ -114,13 +89,11 @@ void tst_Button::enterPressesOnlyTheDefault()
 
 void tst_Button::color_data()
 {
-    QTest::addColumn<int>("color");
-    QTest::addColumn<QColor>("expected");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("first") << 0 << QColor(0, 0, 0) << "Black";
-    QTest::newRow("red") << 5 << QColor(255, 0, 0) << "Red";
-    QTest::newRow("last") << 15 << QColor(0, 255, 255) << "Aqua";
-    QTest::newRow("none") << -1 << QColor() << "None";
+    const Rows<int, QColor, QString> row("color", "expected", "name");
+    row("first", 0, {0, 0, 0}, "Black");
+    row("red", 5, {255, 0, 0}, "Red");
+    row("last", 15, {0, 255, 255}, "Aqua");
+    row("none", -1, QColor(), "None");
 }
 
 void tst_Button::color()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <zvsdkbase/hostcontrol.h>
@@ -64,9 +65,7 @@ private Q_SLOTS:
 
 void tst_Dialog::buttonsFollowCallbacks_data()
 {
-    QTest::addColumn<int>("id");
-    QTest::addColumn<bool>("modal");
-    QTest::addColumn<QStringList>("buttons");
+    const Rows<int, bool, QStringList> row("id", "modal", "buttons");
     const auto call = report<Ok>;
     const auto modal = [](ZelGUIVoidCallback ok, ZelGUIVoidCallback apply, ZelGUIVoidCallback cancel,
                           ZelGUIVoidCallback help) {
@@ -75,12 +74,11 @@ void tst_Dialog::buttonsFollowCallbacks_data()
     const auto modeless = [](ZelGUIVoidCallback close, ZelGUIVoidCallback help) {
         return ZelGUIDialogCreateModeless(ZELGUI_MAIN_WINDOW, 3000, 300, "", nullptr, close, help);
     };
-    using Texts = QStringList;
-    QTest::newRow("none") << modal(nullptr, nullptr, nullptr, nullptr) << true << Texts();
-    QTest::newRow("OK, Cancel") << modal(call, nullptr, call, nullptr) << true << Texts({"Cancel", "OK"});
-    QTest::newRow("all") << modal(call, call, call, call) << true << Texts({"Apply", "Cancel", "Help", "OK"});
-    QTest::newRow("modeless") << modeless(call, call) << false << Texts({"Close", "Help"});
-    QTest::newRow("modeless without Close is modal") << modeless(nullptr, call) << true << Texts({"Help"});
+    row("none", modal(nullptr, nullptr, nullptr, nullptr), true, {});
+    row("OK, Cancel", modal(call, nullptr, call, nullptr), true, {"Cancel", "OK"});
+    row("all", modal(call, call, call, call), true, {"Apply", "Cancel", "Help", "OK"});
+    row("modeless", modeless(call, call), false, {"Close", "Help"});
+    row("modeless without Close is modal", modeless(nullptr, call), true, {"Help"});
 }
 
 void tst_Dialog::buttonsFollowCallbacks()
@@ -109,14 +107,7 @@ void tst_Dialog::windowAndTitle()
 
 void tst_Dialog::dropInACallback_data()
 {
-    QTest::addColumn<bool>("modal");
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<int>("callback");
-    QTest::addColumn<bool>("isDeferred");
-    QTest::addColumn<int>("result");
-    const auto row = [](const char *name, bool modal, const char *action, Name callback, bool isDeferred, int result) {
-        QTest::newRow(name) << modal << QString::fromLatin1(action) << int(callback) << isDeferred << result;
-    };
+    const Rows<bool, QString, int, bool, int> row("modal", "action", "callback", "isDeferred", "result");
     row("OK", true, "OK", Ok, true, QDialog::Accepted);
     row("Return", true, "return", Ok, true, QDialog::Accepted);
     row("Cancel", true, "Cancel", Cancel, true, QDialog::Rejected);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QLabel>
@@ -42,29 +43,23 @@ void tst_Label::widthIsThatOfTheFirstText()
 
 void tst_Label::doubles_data()
 {
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QByteArray>("format");
-    QTest::addColumn<QString>("text");
-    const QString unchanged = QStringLiteral("before");
-    QTest::newRow("fixed") << 3.14159 << QByteArray("%.2f") << "3.14";
-    QTest::newRow("general") << 1e7 << QByteArray("%g") << "1e+07";
-    QTest::newRow("upper case") << 1e7 << QByteArray("%G") << "1E+07";
-    QTest::newRow("padded, signed") << 1.5 << QByteArray("%+08.2f") << "+0001.50";
-    QTest::newRow("long is a double too") << 0.5 << QByteArray("%lf") << "0.500000";
-    QTest::newRow("text and percent signs around") << 50.0 << QByteArray("100%% > %.0f %%") << "100% > 50 %";
-    QTest::newRow("UTF-8 around") << 20.0
-                                  << QByteArray("%g \xC2\xB0"
-                                                "C")
-                                  << QString::fromUtf8("20 \xC2\xB0"
-                                                       "C");
-    QTest::newRow("a point without digits") << 3.5 << QByteArray("%.f") << "4";
-    QTest::newRow("widest") << 1.0 << QByteArray("%1000.0f") << QString(999, QLatin1Char(' ')) + QLatin1Char('1');
+    const Rows<double, QByteArray, QString> row("value", "format", "text");
+    row("fixed", 3.14159, "%.2f", "3.14");
+    row("general", 1e7, "%g", "1e+07");
+    row("upper case", 1e7, "%G", "1E+07");
+    row("padded, signed", 1.5, "%+08.2f", "+0001.50");
+    row("long is a double too", 0.5, "%lf", "0.500000");
+    row("text and percent signs around", 50.0, "100%% > %.0f %%", "100% > 50 %");
+    row("UTF-8 around", 20.0, "%g \xC2\xB0.", "20 \xC2\xB0.");
+    row("a point without digits", 3.5, "%.f", "4");
+    row("widest", 1.0, "%1000.0f", QString(999, QLatin1Char(' ')) + QLatin1Char('1'));
+    // None for one number.
     const char *const bad[] = {"",       "%",       "text",          "%%",   "%d",    "%s",      "%n",
                                "%c",     "%*f",     "%.*f",          "%f%f", "%f %s", "%f%",     "%Lf",
                                "%1001f", "%.1001f", "%99999999999f", "%%f",  "%-",    "%5.5.5f", "%hhf"};
     for (const char *const format : bad)
-        QTest::addRow("not a number format: \"%s\"", format) << 1.0 << QByteArray(format) << unchanged;
-    QTest::newRow("null") << 1.0 << QByteArray() << unchanged;
+        row(format, 1.0, format, "before");
+    row("null", 1.0, QByteArray(), "before");
 }
 
 void tst_Label::doubles()
@@ -77,13 +72,12 @@ void tst_Label::doubles()
 
 void tst_Label::integers_data()
 {
-    QTest::addColumn<qint64>("value");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("negative") << qint64(-5) << "-5";
-    QTest::newRow("largest") << qint64(0x7fffffff) << "2147483647";
-    QTest::newRow("wraps") << (qint64(1) << 32) + 1 << "1";
-    QTest::newRow("wraps to negative") << (qint64(1) << 31) << "-2147483648";
-    QTest::newRow("64-bit least") << std::numeric_limits<qint64>::min() << "0";
+    const Rows<qint64, QString> row("value", "text");
+    row("negative", -5, "-5");
+    row("largest", 0x7fffffff, "2147483647");
+    row("wraps", (qint64(1) << 32) + 1, "1");
+    row("wraps to negative", (qint64(1) << 31), "-2147483648");
+    row("64-bit least", std::numeric_limits<qint64>::min(), "0");
 }
 
 void tst_Label::integers()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QApplication>
@@ -108,16 +109,14 @@ void tst_Menu::mouse()
 
 void tst_Menu::keyboard_data()
 {
-    QTest::addColumn<QStringList>("keys");
-    QTest::addColumn<QStringList>("reports");
-    QTest::newRow("mnemonics") << QStringList({"Alt+F", "O"}) << QStringList({"MenuItem"});
-    QTest::newRow("arrows skip the line") << QStringList({"Alt+F", "Down", "Return"}) << QStringList({"MenuToggle 1"});
-    QTest::newRow("toggled twice") << QStringList({"Alt+F", "L", "Alt+F", "Up", "Return"})
-                                   << QStringList({"MenuToggle 1", "MenuToggle 0"});
-    QTest::newRow("sub-menu, mnemonics") << QStringList({"Alt+V", "Z", "O"}) << QStringList({"Down"});
-    QTest::newRow("sub-menu, arrows") << QStringList({"Alt+F", "Right", "Right", "Return"}) << QStringList({"Up"});
+    const Rows<QStringList, QStringList> row("keys", "reports");
+    row("mnemonics", {"Alt+F", "O"}, {"MenuItem"});
+    row("arrows skip the line", {"Alt+F", "Down", "Return"}, {"MenuToggle 1"});
+    row("toggled twice", {"Alt+F", "L", "Alt+F", "Up", "Return"}, {"MenuToggle 1", "MenuToggle 0"});
+    row("sub-menu, mnemonics", {"Alt+V", "Z", "O"}, {"Down"});
+    row("sub-menu, arrows", {"Alt+F", "Right", "Right", "Return"}, {"Up"});
     // They close the menu and leave the bar; the dialog stays.
-    QTest::newRow("Escape") << QStringList({"Alt+F", "Esc", "Esc"}) << QStringList();
+    row("Escape", {"Alt+F", "Esc", "Esc"}, QStringList());
 }
 
 void tst_Menu::keyboard()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QAbstractItemView>
@@ -208,13 +209,11 @@ void tst_MenuBar::barItself()
 
 void tst_MenuBar::innerParts_data()
 {
-    QTest::addColumn<bool>("isShownBefore");
-    QTest::addColumn<bool>("isDroppedBefore");
-    QTest::addColumn<int>("bars");
-    QTest::newRow("never shown before") << false << false << 1;
-    QTest::newRow("visible") << true << false << 1;
-    QTest::newRow("visible before, now hidden") << true << true << 1;
-    QTest::newRow("visible, two bars") << true << false << 2;
+    const Rows<bool, bool, int> row("isShownBefore", "isDroppedBefore", "bars");
+    row("never shown before", false, false, 1);
+    row("visible", true, false, 1);
+    row("visible before, now hidden", true, true, 1);
+    row("visible, two bars", true, false, 2);
 }
 
 /// Shows all of a dialog, its focus nowhere.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QFontInfo>
@@ -111,12 +112,12 @@ void tst_MultiLineText::wrappingAndFont()
 
 void tst_MultiLineText::tooSmallForScrollBars_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("nothing") << QSize(1, 1);
-    QTest::newRow("narrow") << QSize(100, 2000);
-    QTest::newRow("flat") << QSize(4000, 50);
-    QTest::newRow("barely room") << QSize(200, 100);
-    QTest::newRow("small") << QSize(400, 200);
+    const Rows<QSize> row("size");
+    row("nothing", {1, 1});
+    row("narrow", {100, 2000});
+    row("flat", {4000, 50});
+    row("barely room", {200, 100});
+    row("small", {400, 200});
 }
 
 // Showing a scroll bar leaves no room for the text, which hides the scroll bar, which makes room.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QComboBox>
@@ -33,14 +34,12 @@ private Q_SLOTS:
 
 void tst_OptionMenu::items_data()
 {
-    QTest::addColumn<QByteArray>("list");
-    QTest::addColumn<QStringList>("items");
-    QTest::newRow("trimmed") << QByteArray("Linear, Log ,Custom") << QStringList({"Linear", "Log", "Custom"});
-    QTest::newRow("empty ones") << QByteArray(",A,,B,") << QStringList({"", "A", "", "B", ""});
-    QTest::newRow("nothing") << QByteArray("") << QStringList({""});
-    QTest::newRow("null") << QByteArray() << QStringList({""});
-    QTest::newRow("Latin-1") << QByteArray("\xC4,\xA0x")
-                             << QStringList({QString(QChar(0xC4)), QString(QChar(0xA0)) + "x"});
+    const Rows<QByteArray, QStringList> row("list", "items");
+    row("trimmed", "Linear, Log ,Custom", {"Linear", "Log", "Custom"});
+    row("empty ones", ",A,,B,", {"", "A", "", "B", ""});
+    row("nothing", "", {""});
+    row("null", QByteArray(), {""});
+    row("Latin-1", "\xC4,\xA0x", {QString(QChar(0xC4)), QString(QChar(0xA0)) + "x"});
 }
 
 void tst_OptionMenu::items()
@@ -58,17 +57,14 @@ void tst_OptionMenu::items()
 
 void tst_OptionMenu::positions_data()
 {
-    QTest::addColumn<int>("position");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("chosen");
-    QTest::addColumn<int>("countAfterDelete");
-    QTest::newRow("first") << 1 << "A" << 1 << 2;
-    QTest::newRow("last") << 3 << "C" << 3 << 2;
-    QTest::newRow("before the first") << 0 << "" << 0 << 3;
-    QTest::newRow("behind the last") << 4 << "" << 0 << 3;
-    QTest::newRow("negative") << -1 << "" << 0 << 3;
-    QTest::newRow("least") << std::numeric_limits<int>::min() << "" << 0 << 3;
-    QTest::newRow("greatest") << std::numeric_limits<int>::max() << "" << 0 << 3;
+    const Rows<int, QString, int, int> row("position", "text", "chosen", "countAfterDelete");
+    row("first", 1, "A", 1, 2);
+    row("last", 3, "C", 3, 2);
+    row("before the first", 0, "", 0, 3);
+    row("behind the last", 4, "", 0, 3);
+    row("negative", -1, "", 0, 3);
+    row("least", std::numeric_limits<int>::min(), "", 0, 3);
+    row("greatest", std::numeric_limits<int>::max(), "", 0, 3);
 }
 
 void tst_OptionMenu::positions()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <zvsdkbase/hostcontrol.h>
@@ -97,20 +98,17 @@ void tst_Placement::geometry()
 
 void tst_Placement::resolution_data()
 {
-    QTest::addColumn<double>("horizontal");
-    QTest::addColumn<double>("vertical");
-    QTest::addColumn<int>("units");
-    QTest::addColumn<int>("width");
+    const Rows<double, double, int, int> row("horizontal", "vertical", "units", "width");
     const double infinity = std::numeric_limits<double>::infinity();
-    QTest::newRow("one and a half") << 144.0 << 96.0 << 1000 << 169;
-    QTest::newRow("a half") << 48.0 << 96.0 << 1000 << 56;
-    QTest::newRow("any other order of factors gives more") << 72.0 << 100.0 << 6821 << 552;
-    QTest::newRow("zero") << 96.0 << 0.0 << 1000 << 112;
-    QTest::newRow("negative") << -96.0 << 96.0 << 1000 << 112;
-    QTest::newRow("both negative") << -144.0 << -96.0 << 1000 << 112;
-    QTest::newRow("infinite") << infinity << infinity << 1000 << 112;
-    QTest::newRow("not a number") << std::nan("") << 96.0 << 1000 << 112;
-    QTest::newRow("ratio overflows") << 1e300 << 1e-300 << 1000 << 112;
+    row("one and a half", 144.0, 96.0, 1000, 169);
+    row("a half", 48.0, 96.0, 1000, 56);
+    row("any other order of factors gives more", 72.0, 100.0, 6821, 552);
+    row("zero", 96.0, 0.0, 1000, 112);
+    row("negative", -96.0, 96.0, 1000, 112);
+    row("both negative", -144.0, -96.0, 1000, 112);
+    row("infinite", infinity, infinity, 1000, 112);
+    row("not a number", std::nan(""), 96.0, 1000, 112);
+    row("ratio overflows", 1e300, 1e-300, 1000, 112);
 }
 
 void tst_Placement::resolution()
@@ -126,11 +124,10 @@ void tst_Placement::resolution()
 
 void tst_Placement::dialogFrame_data()
 {
-    QTest::addColumn<QSize>("units");
-    QTest::addColumn<QSize>("content");
-    QTest::newRow("plain") << QSize(3000, 1000) << QSize(337, 250);
-    QTest::newRow("narrower than its margins") << QSize(100, 100) << QSize(11, 25);
-    QTest::newRow("beyond what window systems bear") << QSize(1 << 30, 1 << 30) << QSize(8192, 8192);
+    const Rows<QSize, QSize> row("units", "content");
+    row("plain", {3000, 1000}, {337, 250});
+    row("narrower than its margins", {100, 100}, {11, 25});
+    row("beyond what window systems bear", {1 << 30, 1 << 30}, {8192, 8192});
 }
 
 void tst_Placement::dialogFrame()

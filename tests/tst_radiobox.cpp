@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QButtonGroup>
@@ -22,15 +23,13 @@ private Q_SLOTS:
 
 void tst_RadioBox::labels_data()
 {
-    QTest::addColumn<QVector<QByteArray>>("labels");
-    QTest::addColumn<QStringList>("texts");
+    const Rows<QVector<QByteArray>, QStringList> row("labels", "texts");
     using Labels = QVector<QByteArray>;
-    QTest::newRow("two") << Labels({"A", "B"}) << QStringList({"A", "B"});
-    QTest::newRow("a gap") << Labels({"A", "B", {}, "D"}) << QStringList({"A", "B", "D"});
-    QTest::newRow("an empty one counts") << Labels({"A", "B", ""}) << QStringList({"A", "B", ""});
-    QTest::newRow("the first two always count") << Labels({{}, {}, "C"}) << QStringList({"", "", "C"});
-    QTest::newRow("blanks and Latin-1") << Labels({" A ", "\xC4", "C", "D", "E"})
-                                        << QStringList({" A ", QString(QChar(0xC4)), "C", "D", "E"});
+    row("two", Labels({"A", "B"}), {"A", "B"});
+    row("a gap", Labels({"A", "B", {}, "D"}), {"A", "B", "D"});
+    row("an empty one counts", Labels({"A", "B", ""}), {"A", "B", ""});
+    row("the first two always count", Labels({{}, {}, "C"}), {"", "", "C"});
+    row("blanks and Latin-1", Labels({" A ", "\xC4", "C", "D", "E"}), {" A ", QString(QChar(0xC4)), "C", "D", "E"});
 }
 
 void tst_RadioBox::labels()

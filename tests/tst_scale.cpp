@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QApplication>
@@ -61,15 +62,12 @@ void tst_Scale::startsAtItsMinimum()
 
 void tst_Scale::setting_data()
 {
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("maximum");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("within") << 0 << 100 << 60 << 60;
-    QTest::newRow("above") << 0 << 100 << 101 << 100;
-    QTest::newRow("below") << 10 << 100 << kLeast << 10;
-    QTest::newRow("limits the wrong way round") << 50 << 20 << 40 << 20;
-    QTest::newRow("limits above the old ones") << 200 << 300 << 0 << 200;
+    const Rows<int, int, int, int> row("minimum", "maximum", "value", "expected");
+    row("within", 0, 100, 60, 60);
+    row("above", 0, 100, 101, 100);
+    row("below", 10, 100, kLeast, 10);
+    row("limits the wrong way round", 50, 20, 40, 20);
+    row("limits above the old ones", 200, 300, 0, 200);
 }
 
 void tst_Scale::setting()
@@ -150,12 +148,10 @@ void tst_Scale::numericDisplay()
 
 void tst_Scale::extremeLimits_data()
 {
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("maximum");
-    QTest::addColumn<int>("greatest");
-    QTest::newRow("from the least to the greatest") << kLeast << kGreatest << -1;
-    QTest::newRow("2^31 apart") << -1 << kGreatest << kGreatest - 1;
-    QTest::newRow("just below that") << 0 << kGreatest << kGreatest;
+    const Rows<int, int, int> row("minimum", "maximum", "greatest");
+    row("from the least to the greatest", kLeast, kGreatest, -1);
+    row("2^31 apart", -1, kGreatest, kGreatest - 1);
+    row("just below that", 0, kGreatest, kGreatest);
 }
 
 // A range of 2^31 is divided by when the slider is painted.

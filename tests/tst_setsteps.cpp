@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QLineEdit>
@@ -98,13 +99,7 @@ void tst_SetSteps::init()
 void tst_SetSteps::read_data()
 {
     using Members = QVector<LgIndex>;
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<LgIndex>("refused");
-    QTest::addColumn<bool>("isRead");
-    QTest::addColumn<Members>("expected");
-    const auto row = [](const char *name, const char *text, LgIndex refused, bool isRead, const Members &expected) {
-        QTest::newRow(name) << QByteArray(text) << refused << isRead << expected;
-    };
+    const Rows<QByteArray, LgIndex, bool, Members> row("text", "refused", "isRead", "expected");
     row("one by one", "7-9, 2-9:3 5", 0, true, {7, 8, 9, 2, 5, 8, 5});
     // The rest of the range is still added; what follows it is not read any more.
     row("first refused", "1,3-5,8", 3, false, {1, 3, 4, 5});

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QAbstractSpinBox>
 #include <QLineEdit>
-#include <QStyle>
-#include <QStyleOptionSpinBox>
 
 #include <limits>
 
@@ -35,19 +34,8 @@ void tst_SpinTextField::stepsAreReported()
     const int id = addSpin(launchModeless());
     auto *const spin = shown<QAbstractSpinBox>(id);
     ZelGUITextFieldSetString(id, "any text");
-    const auto clickArrow = [spin](QStyle::SubControl arrow) {
-        QStyleOptionSpinBox option;
-        option.initFrom(spin);
-        option.subControls = QStyle::SC_All;
-        option.buttonSymbols = spin->buttonSymbols();
-        option.frame = true;
-        const QRect place = spin->style()->subControlRect(QStyle::CC_SpinBox, &option, arrow, spin);
-        QTest::mouseClick(spin, Qt::LeftButton, Qt::NoModifier, place.center());
-    };
-    clickArrow(QStyle::SC_SpinBoxUp);
-    clickArrow(QStyle::SC_SpinBoxDown);
-    QTest::keyClick(spin, Qt::Key_Up);
-    QTest::keyClick(spin, Qt::Key_PageDown);
+    for (const auto key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown})
+        QTest::keyClick(spin, key);
     QCOMPARE(log(), QStringList({"Up", "Down", "Up", "Down"}));
     QCOMPARE(textOf(id), QString("any text"));
 
@@ -64,19 +52,15 @@ void tst_SpinTextField::stepsAreReported()
 
 void tst_SpinTextField::stepDouble_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QByteArray>("format");
-    QTest::addColumn<double>("increment");
-    QTest::addColumn<double>("min");
-    QTest::addColumn<double>("max");
-    QTest::addColumn<QString>("result");
-    QTest::newRow("within") << QByteArray("2.5") << QByteArray("%.2f") << 0.25 << 0.0 << 3.0 << "2.75";
-    QTest::newRow("beyond the maximum") << QByteArray("2.5") << QByteArray("%g") << 1.0 << 0.0 << 3.0 << "3";
-    QTest::newRow("below the minimum") << QByteArray("0.2") << QByteArray("%g") << -0.5 << 0.0 << 1.0 << "0";
-    QTest::newRow("limits contradict, below") << QByteArray("1") << QByteArray("%g") << 1.0 << 9.0 << 5.0 << "9";
-    QTest::newRow("limits contradict, above") << QByteArray("10") << QByteArray("%g") << 1.0 << 9.0 << 5.0 << "5";
-    QTest::newRow("no number") << QByteArray("abc") << QByteArray("%g") << 1.0 << 0.0 << 3.0 << QString();
-    QTest::newRow("bad format") << QByteArray("1") << QByteArray("%d") << 1.0 << 0.0 << 3.0 << QString();
+    const Rows<QByteArray, QByteArray, double, double, double, QString> row("text", "format", "increment", "min", "max",
+                                                                            "result");
+    row("within", "2.5", "%.2f", 0.25, 0.0, 3.0, "2.75");
+    row("beyond the maximum", "2.5", "%g", 1.0, 0.0, 3.0, "3");
+    row("below the minimum", "0.2", "%g", -0.5, 0.0, 1.0, "0");
+    row("limits contradict, below", "1", "%g", 1.0, 9.0, 5.0, "9");
+    row("limits contradict, above", "10", "%g", 1.0, 9.0, 5.0, "5");
+    row("no number", "abc", "%g", 1.0, 0.0, 3.0, QString());
+    row("bad format", "1", "%d", 1.0, 0.0, 3.0, QString());
 }
 
 void tst_SpinTextField::stepDouble()
@@ -98,15 +82,7 @@ void tst_SpinTextField::stepInteger_data()
 {
     constexpr qint64 least = std::numeric_limits<qint64>::min();
     constexpr qint64 greatest = std::numeric_limits<qint64>::max();
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<qint64>("increment");
-    QTest::addColumn<qint64>("min");
-    QTest::addColumn<qint64>("max");
-    QTest::addColumn<QString>("result");
-    const auto row = [](const char *name, const char *text, qint64 increment, qint64 min, qint64 max,
-                        const QString &result) {
-        QTest::newRow(name) << QByteArray(text) << increment << min << max << result;
-    };
+    const Rows<QByteArray, qint64, qint64, qint64, QString> row("text", "increment", "min", "max", "result");
     row("within", "9", 1, 1, 10, "10");
     row("at the maximum", "10", 1, 1, 10, "10");
     row("an MX offset is an offset", "Mx-3", 1, 1, 10, "1");

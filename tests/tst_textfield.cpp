@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QApplication>
@@ -76,16 +77,14 @@ void tst_TextField::strings()
 
 void tst_TextField::doubles_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<bool>("isNumber");
-    QTest::newRow("exponent") << QByteArray("2.5e3") << 2500.0 << true;
-    QTest::newRow("negative, blanks around") << QByteArray(" -0.5 ") << -0.5 << true;
-    QTest::newRow("empty") << QByteArray("") << 0.0 << false;
-    QTest::newRow("no number") << QByteArray("abc") << 0.0 << false;
-    QTest::newRow("more behind") << QByteArray("1.5x") << 0.0 << false;
-    QTest::newRow("decimal comma") << QByteArray("1,5") << 0.0 << false;
-    QTest::newRow("too large") << QByteArray("1e999") << 0.0 << false;
+    const Rows<QByteArray, double, bool> row("text", "value", "isNumber");
+    row("exponent", "2.5e3", 2500.0, true);
+    row("negative, blanks around", " -0.5 ", -0.5, true);
+    row("empty", "", 0.0, false);
+    row("no number", "abc", 0.0, false);
+    row("more behind", "1.5x", 0.0, false);
+    row("decimal comma", "1,5", 0.0, false);
+    row("too large", "1e999", 0.0, false);
 }
 
 void tst_TextField::doubles()
@@ -108,26 +107,17 @@ void tst_TextField::setDouble()
 
 void tst_TextField::validateDouble_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<double>("min");
-    QTest::addColumn<double>("max");
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QString>("message");
-    const auto row = [](const char *description, const char *text, double min, double max, const char *message,
-                        const char *name = "Tolerance") {
-        QTest::newRow(description) << QByteArray(text) << min << max << QByteArray(name) << QString::fromUtf8(message);
-    };
-    row("minimum", "0", 0, 1, "");
-    row("maximum", "1", 0, 1, "");
-    row("no number", "abc", 0, 1, "Invalid value specified for Tolerance.");
-    row("empty", "", 0, 1, "Invalid value specified for Tolerance.");
-    row("too large", "5", 0, 1, "Invalid value for Tolerance. Expected a value between 0 and 1.");
-    row("six digits", "-1", 0.5, 1234567, "Invalid value for Tolerance. Expected a value between 0.5 and 1.23457e+06.");
-    row("not a number is in no range", "nan", -1e300, 100000,
-        "Invalid value for Tolerance. Expected a value between -1e+300 and 100000.");
-    row("placeholder in the name", "5", 0, 1, "Invalid value for %2 of %1. Expected a value between 0 and 1.",
-        "%2 of %1");
-    row("Latin-1 name", "x", 0, 1, "Invalid value specified for \xC3\x84nderung.", "\xC4nderung");
+    const char *const outside = "Invalid value for Tolerance. Expected a value between ";
+    const Rows<QByteArray, QByteArray, double, double, QString> row("name", "text", "min", "max", "message");
+    row("minimum", "Tolerance", "0", 0, 1, "");
+    row("maximum", "Tolerance", "1", 0, 1, "");
+    row("no number", "Tolerance", "abc", 0, 1, "Invalid value specified for Tolerance.");
+    row("empty", "Tolerance", "", 0, 1, "Invalid value specified for Tolerance.");
+    row("too large", "Tolerance", "5", 0, 1, outside + QString("0 and 1."));
+    row("six digits", "Tolerance", "-1", 0.5, 1234567, outside + QString("0.5 and 1.23457e+06."));
+    row("in no range", "Tolerance", "nan", -1e300, 100000, outside + QString("-1e+300 and 100000."));
+    row("placeholder", "%2 of %1", "5", 0, 1, "Invalid value for %2 of %1. Expected a value between 0 and 1.");
+    row("Latin-1 name", "\xC4nderung", "x", 0, 1, "Invalid value specified for \xC3\x84nderung.");
 }
 
 void tst_TextField::validateDouble()

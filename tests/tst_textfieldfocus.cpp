@@ -25,7 +25,6 @@ private Q_SLOTS:
     void eachEndOfEditingOnce();
     void rejectedTextCannotBeLeft();
     void twoRejectingFields();
-    void cancelTakesOneClick();
     void goneWithItsDialog();
     void callbackShowsAMessage();
     void hiddenOrDisabled();
@@ -136,27 +135,20 @@ void tst_TextFieldFocus::twoRejectingFields()
 }
 
 // Taking the focus back a moment later would let go of the button before the release of the mouse.
-void tst_TextFieldFocus::cancelTakesOneClick()
-{
-    open();
-    answer(Text) = 0;
-    action(Close) = [this] { ZelGUIDialogDrop(m_dialog); };
-    QTest::mouseClick(boxButton(m_window, "Close"), Qt::LeftButton);
-    QCOMPARE(log(), QStringList({"Text bad", "Close"}));
-    QCOMPARE(ZelGUIDialogIsUp(m_dialog), 0);
-    QTest::qWait(10);
-    QCOMPARE(log().size(), 2);
-}
-
 void tst_TextFieldFocus::goneWithItsDialog()
 {
-    open();
     answer(Text) = 0;
     action(Close) = [this] { ZelGUIDialogDrop(m_dialog); };
-    QTest::keyClick(m_widget, Qt::Key_Escape);
-    QCOMPARE(ZelGUIDialogIsUp(m_dialog), 0);
-    QTest::qWait(10);
-    QCOMPARE(log(), QStringList({"Close"}));
+    for (const bool isByMouse : {true, false}) {
+        open();
+        if (isByMouse)
+            QTest::mouseClick(boxButton(m_window, "Close"), Qt::LeftButton);
+        else
+            QTest::keyClick(m_widget, Qt::Key_Escape);
+        QCOMPARE(ZelGUIDialogIsUp(m_dialog), 0);
+        QTest::qWait(10);
+        QCOMPARE(log(), isByMouse ? QStringList({"Text bad", "Close"}) : QStringList("Close"));
+    }
 
     // Destroyed with the focus in it.
     open();
