@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
+
 #include <common_ui_qt/mainwindow.h>
 #include <zvsdkdialogs_common_qt/qtdialogabstract.h>
 #include <zvsdkdialogs_prompt_qt/colorchooserdialog.h>
@@ -115,15 +117,13 @@ void TestHostLibraries::oneDefaultButton()
 
 void TestHostLibraries::colorToString_data()
 {
-    QTest::addColumn<int>("color");
-    QTest::addColumn<QByteArray>("longName");
-    QTest::addColumn<QByteArray>("shortName");
-    QTest::newRow("none") << -1 << QByteArray("None") << QByteArray("None");
-    QTest::newRow("first") << 0 << QByteArray("Black") << QByteArray("#000000");
-    QTest::newRow("blue component only") << 12 << QByteArray("Navy") << QByteArray("#000080");
-    QTest::newRow("letters") << 1 << QByteArray("Silver") << QByteArray("#c0c0c0");
-    QTest::newRow("last") << 15 << QByteArray("Aqua") << QByteArray("#00ffff");
-    QTest::newRow("behind the last") << 16 << QByteArray("Unknown") << QByteArray("Unknown");
+    const Rows<int, QByteArray, QByteArray> row("color", "longName", "shortName");
+    row("none", -1, "None", "None");
+    row("first", 0, "Black", "#000000");
+    row("blue component only", 12, "Navy", "#000080");
+    row("letters", 1, "Silver", "#c0c0c0");
+    row("last", 15, "Aqua", "#00ffff");
+    row("behind the last", 16, "Unknown", "Unknown");
 }
 
 void TestHostLibraries::colorToString()

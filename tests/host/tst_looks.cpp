@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "hostrun.h"
 
+#include "support/rows.h"
+
+#include <QDir>
+
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -37,10 +41,7 @@ void tst_Looks::initTestCase()
 
 void tst_Looks::faults_data()
 {
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char *entry, const char *expected) {
-        QTest::newRow(entry) << QString::fromLatin1(expected);
-    };
+    const Rows<QString> row("expected");
     row("Good", "");
     row("Narrow label", ": \"A text of some length\" has text that is too wide by 7 pixels");
     row("Low label", ": \"A text of some length\" has text that is too high by 5 pixels");

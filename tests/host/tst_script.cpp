@@ -2,6 +2,10 @@
 // Scripts and recordings, as users of the host run them.
 #include "hostrun.h"
 
+#include "support/rows.h"
+
+#include <QFile>
+
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
@@ -69,11 +73,7 @@ Played TestScript::play(const QString &script) const
 
 void TestScript::badScriptsAreNotRun_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("words");
-    const auto row = [](const char *name, const char *line, const char *words) {
-        QTest::newRow(name) << text(line) << text(words);
-    };
+    const Rows<QString, QString> row("line", "words");
     row("unknown step", "pres OK", "no step pres; there is");
     row("nearest step", "chek X", "is it \"check\"?");
     row("too few words", "type Name", "expected: type NAME TEXT");
@@ -84,8 +84,7 @@ void TestScript::badScriptsAreNotRun_data()
     row("dialog without step", "in Everything", "in TITLE STEP");
     for (const char *step : {"launch Everything", "wait 1", "patience 1", "expect message x", "expect dialog x",
                              "expect dialog closed", "expect dialog x closed"})
-        row(qPrintable(text("dialog of: %1").arg(text(step))), qPrintable(text("in Everything ") + text(step)),
-            "\"in\" has no effect");
+        row(step, text("in Everything ") + text(step), "\"in\" has no effect");
     row("comment without a blank", "press OK #now", "expected: press NAME");
     row("no number", "drag Opacity fast", "drag NAME NUMBER...");
     row("number in quotes", "drag Opacity \"5\"", "drag NAME NUMBER...");
@@ -110,11 +109,9 @@ void TestScript::badScriptsAreNotRun()
 
 void TestScript::stepsThatCannotBeDone_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("step");
-    QTest::addColumn<QString>("words");
-    const auto row = [](const char *name, const char *step, const char *words, const char *before = "") {
-        QTest::newRow(name) << text(before) << text(step) << text(words);
+    const Rows<QString, QString, QString> add("before", "step", "words");
+    const auto row = [&add](const char *name, const char *step, const char *words, const char *before = "") {
+        add(name, before, step, words);
     };
     row("nearest button", "press Complian", "is it \"Complain\"?");
     row("disabled", "press Frozen", "it is disabled");
@@ -181,11 +178,7 @@ void TestScript::stepsThatCannotBeDone()
 
 void TestScript::callsOfSteps_data()
 {
-    QTest::addColumn<QString>("steps");
-    QTest::addColumn<QString>("calls");
-    const auto row = [](const char *name, const char *steps, const char *calls) {
-        QTest::newRow(name) << text(steps) << text(calls);
-    };
+    const Rows<QString, QString> row("steps", "calls");
     row("comment behind a step",
         "press Complain # twice\nexpect message \"First complaint.\"\npress OK #\n"
         "expect message \"Second complaint.\"\npress OK",
@@ -265,11 +258,7 @@ void TestScript::pictureOfADialog()
 
 void TestScript::recordingDoesTheSame_data()
 {
-    QTest::addColumn<QString>("script");
-    QTest::addColumn<QString>("call");
-    const auto row = [](const char *name, const QString &script, const char *call) {
-        QTest::newRow(name) << script << text(call);
-    };
+    const Rows<QString, QString> row("script", "call");
     QFile everything(text(EVERYTHING_SCRIPT));
     QVERIFY(everything.open(QIODevice::ReadOnly));
     row("everything", QString::fromUtf8(everything.readAll()), "nested ok");

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "hostrun.h"
 
+#include "support/rows.h"
+
+#include <QFile>
+
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -19,13 +23,9 @@ private Q_SLOTS:
 
 void TestTrace::linesTellTheCalls_data()
 {
-    QTest::addColumn<QString>("addOn");
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("modal dialog that is closed")
-        << text(HELLO) << QStringList{text("--render"), text("%1")} << text("hello.txt");
-    QTest::newRow("values of every kind, and an exception")
-        << module("traced") << command("--launch Traced") << text("values.txt");
+    const Rows<QString, QStringList, QString> row("addOn", "options", "expected");
+    row("modal dialog that is closed", HELLO, {text("--render"), text("%1")}, "hello.txt");
+    row("values of every kind, and an exception", module("traced"), command("--launch Traced"), "values.txt");
 }
 
 void TestTrace::linesTellTheCalls()
@@ -65,11 +65,10 @@ void TestTrace::addOnsAreNamed()
 
 void TestTrace::layerIsLoadedOnDemandOnly_data()
 {
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<bool>("isLoaded");
-    QTest::newRow("no option") << QStringList() << false;
-    QTest::newRow("--trace") << QStringList{text("--trace")} << true;
-    QTest::newRow("--strict") << QStringList{text("--strict")} << true;
+    const Rows<QStringList, bool> row("options", "isLoaded");
+    row("no option", QStringList(), false);
+    row("--trace", command("--trace"), true);
+    row("--strict", command("--strict"), true);
 }
 
 void TestTrace::layerIsLoadedOnDemandOnly()

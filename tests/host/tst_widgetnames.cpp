@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgetnames.h"
 
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QCheckBox>
@@ -22,13 +23,13 @@ namespace {
 
 enum class Kind { Label, HiddenLabel, Field, CheckBox, Bitmap, List, Slider };
 
-/// A widget at its place in a window, and what users are expected to call it.
+/// A widget at its place in a window, and what users are expected to call it: its text, unless it says otherwise.
 struct Item
 {
     Kind kind;
     QRect rect;
     const char *text;
-    const char *caption;
+    const char *caption = nullptr;
 };
 
 QWidget *make(const Item &item, QWidget *parent)
@@ -82,11 +83,7 @@ private Q_SLOTS:
 
 void tst_WidgetNames::ownTexts_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("caption");
-    const auto row = [](const char *name, const char *text, const char *caption) {
-        QTest::newRow(name) << QString::fromUtf8(text) << QString::fromUtf8(caption);
-    };
+    const Rows<QString, QString> row("text", "caption");
     row("plain", "Greet", "Greet");
     row("mnemonic", "Show &grid", "Show grid");
     row("ampersand", "Black && &white", "Black & white");
@@ -118,66 +115,57 @@ void tst_WidgetNames::ownTexts()
 
 void tst_WidgetNames::labels_data()
 {
-    QTest::addColumn<Items>("items");
-    const auto label = [](const QRect &rect, const char *text, const char *caption) {
+    const Rows<Items> row("items");
+    const auto label = [](const QRect &rect, const char *text, const char *caption = nullptr) {
         return Item{Kind::Label, rect, text, caption};
     };
     const auto field = [](const QRect &rect, const char *caption) { return Item{Kind::Field, rect, "3", caption}; };
     const auto list = [](const QRect &rect, const char *caption) { return Item{Kind::List, rect, "", caption}; };
-    const auto check = [](const QRect &rect) { return Item{Kind::CheckBox, rect, "On", "On"}; };
+    const auto check = [](const QRect &rect) { return Item{Kind::CheckBox, rect, "On"}; };
     const auto bitmap = [](const QRect &rect, const char *toolTip, const char *caption) {
         return Item{Kind::Bitmap, rect, toolTip, caption};
     };
     const QRect line(10, 10, 50, 16);
 
-    QTest::newRow("beside") << Items{label(line, "Seeds:", "Seeds"), field({100, 8, 80, 20}, "Seeds")};
-    QTest::newRow("ampersand") << Items{label(line, "P&V:", "P&V"), field({100, 8, 80, 20}, "P&V")};
-    QTest::newRow("beside, longer than planned")
-        << Items{label({10, 10, 120, 16}, "Seeds:", "Seeds"), field({100, 8, 80, 20}, "Seeds")};
-    QTest::newRow("beside the first line of many")
-        << Items{label(line, "Notes:", "Notes"), list({100, 8, 80, 90}, "Notes")};
-    QTest::newRow("one pixel in common is another line")
-        << Items{label(line, "Seeds:", "Seeds"), field({100, 25, 80, 20}, "")};
-    QTest::newRow("above") << Items{label(line, "Zones:", "Zones"), list({10, 30, 90, 80}, "Zones")};
-    QTest::newRow("above, but too far") << Items{label(line, "Zones:", "Zones"), list({10, 43, 90, 80}, "")};
-    QTest::newRow("above, but further left") << Items{label(line, "Zones:", "Zones"), list({80, 30, 90, 80}, "")};
-    QTest::newRow("below or right of it") << Items{field({10, 10, 40, 20}, ""), label({60, 12, 30, 16}, "mm", "mm"),
-                                                   label({10, 34, 30, 16}, "hint", "hint")};
-    QTest::newRow("beside wins over above")
-        << Items{label({100, 10, 50, 16}, "Heading", "Heading"), label({10, 32, 50, 16}, "Seeds:", "Seeds"),
-                 field({100, 30, 80, 20}, "Seeds")};
-    QTest::newRow("the nearer of two") << Items{label(line, "From", "From"), label({62, 10, 30, 16}, "x =", "x ="),
-                                                field({100, 8, 80, 20}, "x =")};
-    QTest::newRow("range") << Items{label(line, "From:", "From"), field({70, 8, 40, 20}, "From"),
-                                    label({115, 10, 20, 16}, "to", "to"), field({140, 8, 40, 20}, "to")};
-    QTest::newRow("one label, two fields")
-        << Items{label(line, "Size:", "Size"), field({70, 8, 40, 20}, "Size"), field({120, 8, 40, 20}, "")};
-    QTest::newRow("form of two rows") << Items{label(line, "A:", "A"), field({100, 8, 80, 20}, "A"),
-                                               label({10, 32, 50, 16}, "B:", "B"), field({100, 30, 80, 20}, "B")};
-    QTest::newRow("last row of a form, check box below")
-        << Items{label(line, "A:", "A"), field({100, 8, 80, 20}, "A"), check({10, 30, 80, 20})};
-    QTest::newRow("two columns with labels above")
-        << Items{label(line, "Solver:", "Solver"), label({110, 10, 50, 16}, "Zones:", "Zones"),
-                 list({10, 30, 90, 80}, "Solver"), list({110, 30, 90, 80}, "Zones")};
-    QTest::newRow("label above, check box in the other column")
-        << Items{label(line, "Solver:", "Solver"), check({110, 8, 80, 20}), list({10, 30, 90, 80}, "Solver")};
-    QTest::newRow("check boxes beside keep the label from what follows")
-        << Items{label(line, "Axes:", "Axes"), check({70, 8, 40, 20}), field({120, 8, 80, 20}, "")};
-    QTest::newRow("hidden label") << Items{Item{Kind::HiddenLabel, line, "Old:", "Old"}, field({100, 8, 80, 20}, "")};
-    QTest::newRow("empty label between") << Items{label(line, "Seeds:", "Seeds"), label({65, 10, 20, 16}, " ", ""),
-                                                  field({100, 8, 80, 20}, "Seeds")};
-    QTest::newRow("bitmaps") << Items{label(line, "View:", "View"), bitmap({70, 8, 20, 20}, "", "View"),
-                                      bitmap({95, 8, 20, 20}, "<b>Turn</b> left", "Turn left"),
-                                      bitmap({120, 8, 20, 20}, "", "")};
-    QTest::newRow("bitmap with its own name leaves the label unused")
-        << Items{label(line, "View:", "View"), bitmap({70, 8, 20, 20}, "Turn:", "Turn"), field({100, 8, 80, 20}, "")};
+    row("beside", {label(line, "Seeds:"), field({100, 8, 80, 20}, "Seeds")});
+    row("ampersand", {label(line, "P&V:"), field({100, 8, 80, 20}, "P&V")});
+    row("beside, longer than planned", {label({10, 10, 120, 16}, "Seeds:"), field({100, 8, 80, 20}, "Seeds")});
+    row("beside the first line of many", {label(line, "Notes:"), list({100, 8, 80, 90}, "Notes")});
+    row("one pixel in common is another line", {label(line, "Seeds:"), field({100, 25, 80, 20}, "")});
+    row("above", {label(line, "Zones:"), list({10, 30, 90, 80}, "Zones")});
+    row("above, but too far", {label(line, "Zones:"), list({10, 43, 90, 80}, "")});
+    row("above, but further left", {label(line, "Zones:"), list({80, 30, 90, 80}, "")});
+    row("below or right of it",
+        {field({10, 10, 40, 20}, ""), label({60, 12, 30, 16}, "mm"), label({10, 34, 30, 16}, "hint")});
+    row("beside wins over above",
+        {label({100, 10, 50, 16}, "Heading"), label({10, 32, 50, 16}, "Seeds:"), field({100, 30, 80, 20}, "Seeds")});
+    row("the nearer of two", {label(line, "From"), label({62, 10, 30, 16}, "x ="), field({100, 8, 80, 20}, "x =")});
+    row("range", {label(line, "From:"), field({70, 8, 40, 20}, "From"), label({115, 10, 20, 16}, "to"),
+                  field({140, 8, 40, 20}, "to")});
+    row("one label, two fields", {label(line, "Size:"), field({70, 8, 40, 20}, "Size"), field({120, 8, 40, 20}, "")});
+    row("form of two rows", {label(line, "A:"), field({100, 8, 80, 20}, "A"), label({10, 32, 50, 16}, "B:"),
+                             field({100, 30, 80, 20}, "B")});
+    row("last row of a form, check box below",
+        {label(line, "A:"), field({100, 8, 80, 20}, "A"), check({10, 30, 80, 20})});
+    row("two columns with labels above", {label(line, "Solver:"), label({110, 10, 50, 16}, "Zones:"),
+                                          list({10, 30, 90, 80}, "Solver"), list({110, 30, 90, 80}, "Zones")});
+    row("label above, check box in the other column",
+        {label(line, "Solver:"), check({110, 8, 80, 20}), list({10, 30, 90, 80}, "Solver")});
+    row("check boxes beside keep the label from what follows",
+        {label(line, "Axes:"), check({70, 8, 40, 20}), field({120, 8, 80, 20}, "")});
+    row("hidden label", {{Kind::HiddenLabel, line, "Old:"}, field({100, 8, 80, 20}, "")});
+    row("empty label between",
+        {label(line, "Seeds:"), label({65, 10, 20, 16}, " ", ""), field({100, 8, 80, 20}, "Seeds")});
+    row("bitmaps", {label(line, "View:"), bitmap({70, 8, 20, 20}, "", "View"),
+                    bitmap({95, 8, 20, 20}, "<b>Turn</b> left", "Turn left"), bitmap({120, 8, 20, 20}, "", "")});
+    row("bitmap with its own name leaves the label unused",
+        {label(line, "View:"), bitmap({70, 8, 20, 20}, "Turn:", "Turn"), field({100, 8, 80, 20}, "")});
     const Item slider{Kind::Slider, {100, 30, 80, 20}, "", "Number"};
     const Item display = label({100, 14, 80, 16}, "8", "Number");
-    QTest::newRow("slider with display") << Items{label({10, 32, 50, 16}, "Number:", "Number"), display, slider};
-    QTest::newRow("label above a slider's display")
-        << Items{label({100, 6, 80, 20}, "Number:", "Number"), display, slider};
-    QTest::newRow("number that isn't a slider's display")
-        << Items{label({100, 14, 50, 16}, "8", "8"), Item{Kind::Slider, {100, 30, 80, 20}, "", "8"}};
+    row("slider with display", {label({10, 32, 50, 16}, "Number:"), display, slider});
+    row("label above a slider's display", {label({100, 6, 80, 20}, "Number:"), display, slider});
+    row("number that isn't a slider's display",
+        {label({100, 14, 50, 16}, "8"), {Kind::Slider, {100, 30, 80, 20}, "", "8"}});
 }
 
 void tst_WidgetNames::labels()
@@ -190,8 +178,10 @@ void tst_WidgetNames::labels()
         widgets.constLast()->setGeometry(item.rect);
     }
     const auto compareAll = [&items, &widgets] {
-        for (int i = 0; i < items.size(); ++i)
-            QCOMPARE(captionOf(*widgets[i]), QString::fromUtf8(items[i].caption));
+        for (int i = 0; i < items.size(); ++i) {
+            const char *const caption = items[i].caption ? items[i].caption : items[i].text;
+            QCOMPARE(captionOf(*widgets[i]), QString::fromUtf8(caption).remove(QLatin1Char(':')));
+        }
     };
     compareAll();
     window.show();

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "hostrun.h"
 
+#include "support/rows.h"
+
+#include <QDir>
+
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -234,12 +238,7 @@ void TestZelhost::dialogsAreClosed()
 
 void TestZelhost::badPictures_data()
 {
-    QTest::addColumn<QString>("addOn");
-    QTest::addColumn<QString>("directory");
-    QTest::addColumn<QString>("mentioned");
-    const auto row = [](const char *name, const char *addOn, const char *directory, const char *mentioned) {
-        QTest::newRow(name) << module(addOn) << text(directory) << text(mentioned);
-    };
+    const Rows<QByteArray, QString, QString> row("addOn", "directory", "mentioned");
     row("no dialog", "silent", "pictures", "\"Silent\"");
     row("loop without events", "stuck", "pictures", "\"Stuck\"");
     row("dialog stays open", "neverclosing", "pictures", "\"Never closing\"");
@@ -250,13 +249,14 @@ void TestZelhost::badPictures_data()
 
 void TestZelhost::badPictures()
 {
-    QFETCH(const QString, addOn);
+    QFETCH(const QByteArray, addOn);
     QFETCH(const QString, directory);
     QFETCH(const QString, mentioned);
     const QTemporaryDir parent;
     QFile file(parent.filePath(text("file")));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    const Outcome outcome = runHost(command("--timeout 1.5 --render") << parent.filePath(directory) << addOn);
+    const Outcome outcome =
+        runHost(command("--timeout 1.5 --render") << parent.filePath(directory) << module(addOn.constData()));
     QCOMPARE(outcome.exitCode, 1);
     QVERIFY2(outcome.errors.size() == 1, qPrintable(outcome.errors.join(QLatin1Char('\n'))));
     QVERIFY2(outcome.errors[0].contains(mentioned), qPrintable(outcome.errors[0]));

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
+
 #include <zvsdkbase/hostcontrol.h>
 #include <zvsdkbase/zelutil.h>
 
@@ -230,15 +232,15 @@ void TestZvsdkbase::ledgerServesManyThreads()
 
 void TestZvsdkbase::setHoldsWhatWasAdded_data()
 {
-    QTest::addColumn<Members>("added");
-    QTest::newRow("random, dense") << shuffled(20000, 1);
-    QTest::newRow("random, every second") << shuffled(20000, 2);
+    const Rows<Members> row("added");
+    row("random, dense", shuffled(20000, 1));
+    row("random, every second", shuffled(20000, 2));
     using Limits = std::numeric_limits<LgIndex>;
-    QTest::newRow("largest index") << Members{Limits::max(), 1, Limits::max() - 1, Limits::max()};
-    QTest::newRow("no index") << Members{0, 1, -1, Limits::min()};
+    row("largest index", {Limits::max(), 1, Limits::max() - 1, Limits::max()});
+    row("no index", {0, 1, -1, Limits::min()});
     Members mixed = shuffled(30000, 1);
     mixed.resize(10000);
-    QTest::newRow("random, some") << mixed;
+    row("random, some", mixed);
 }
 
 void TestZvsdkbase::setHoldsWhatWasAdded()
@@ -345,17 +347,16 @@ void TestZvsdkbase::stringListMayBeStrange()
 
 void TestZvsdkbase::basicColor_data()
 {
-    QTest::addColumn<int>("color");
-    QTest::addColumn<QString>("name");
+    const Rows<int, QString> row("color", "name");
     // The names are those of the toolkit's own table, so the components don't come from here.
     const char *const names[] = {"black", "silver", "gray",  "white",  "maroon", "red",  "purple", "fuchsia",
                                  "green", "lime",   "olive", "yellow", "navy",   "blue", "teal",   "aqua"};
     int color = 0;
     for (const char *name : names)
-        QTest::newRow(name) << color++ << QString::fromLatin1(name);
-    QTest::newRow("below the first") << -1 << QStringLiteral("black");
-    QTest::newRow("behind the last") << 16 << QStringLiteral("black");
-    QTest::newRow("far below") << std::numeric_limits<int>::min() << QStringLiteral("black");
+        row(name, color++, name);
+    row("below the first", -1, "black");
+    row("behind the last", 16, "black");
+    row("far below", std::numeric_limits<int>::min(), "black");
 }
 
 void TestZvsdkbase::basicColor()
@@ -453,13 +454,11 @@ void TestZvsdkbase::errorMessageSurvivesItsParent()
 
 void TestZvsdkbase::errorMessageOpensNoDialog_data()
 {
-    QTest::addColumn<QByteArray>("message");
-    QTest::addColumn<bool>("batch");
-    QTest::addColumn<bool>("withWindow");
-    QTest::newRow("null") << QByteArray() << false << true;
-    QTest::newRow("empty") << QByteArray("") << false << true;
-    QTest::newRow("batch mode") << QByteArray("Expected line: batch mode") << true << true;
-    QTest::newRow("no main window") << QByteArray("Expected line: no main window") << false << false;
+    const Rows<QByteArray, bool, bool> row("message", "batch", "withWindow");
+    row("null", QByteArray(), false, true);
+    row("empty", "", false, true);
+    row("batch mode", "Expected line: batch mode", true, true);
+    row("no main window", "Expected line: no main window", false, false);
 }
 
 void TestZvsdkbase::errorMessageOpensNoDialog()
