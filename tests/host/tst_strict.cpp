@@ -67,9 +67,9 @@ void TestStrict::misuseIsNamed_data()
          "ZelGUISetSensitivity: id is ZELGUI_INVALID_ID, so it names nothing; pass what a creating function"});
     row("wrongkind", {"ZelGUIListGetItemCount: listId 1 is a label instead of a list; pass what ZelGUIListAdd"});
     row("destroyed", {"ZelGUILabelSetText: labelId 1 is a label that was destroyed"});
-    row("utf8", {"ZelGUIButtonAdd: label \"Größe\" is UTF-8, but read as Latin-1; convert it to Latin-1",
-                 "ZelGUIListSetItems: items \"Straße\" is UTF-8, but read as Latin-1; convert it to Latin-1"});
-    row("latin1", {"ZelGUILabelAdd: text \"Größe\" is not UTF-8, but read as UTF-8; convert it to UTF-8"});
+    row("utf8", {"ZelGUIButtonAdd: label \"Süß\" is UTF-8, but read as Latin-1; convert it to Latin-1",
+                 "ZelGUIListSetItems: items \"Spaß\" is UTF-8, but read as Latin-1; convert it to Latin-1"});
+    row("latin1", {"ZelGUILabelAdd: text \"Süß\" is not UTF-8, but read as UTF-8; convert it to UTF-8"});
     row("format", {"ZelGUILabelSetDouble: format \"%d\" is none for one number; use exactly one",
                    "ZelGUILabelSetDouble: format \"%.2f of %.2f\" is none for one number; use exactly one"});
     row("position", {"ZelGUIListSetSelectedItem: position 1 is none of 0 items; there is none to name yet",

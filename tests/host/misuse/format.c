@@ -4,18 +4,16 @@
 
 static void wrong(void)
 {
-    const int label = (makeDialogWithInit(0), ZelGUILabelAdd(dialog, 100, 100, "label"));
+    const int label = ZelGUILabelAdd(dialog, 100, 100, "label");
     ZelGUILabelSetDouble(label, 1, "%d");
     ZelGUILabelSetDouble(label, 1, "%.2f of %.2f");
-    ZelGUIDialogLaunch(dialog);
 }
 
 static void valid(void)
 {
-    const int label = (makeDialogWithInit(0), ZelGUILabelAdd(dialog, 100, 100, "label"));
+    const int label = ZelGUILabelAdd(dialog, 100, 100, "label");
     ZelGUILabelSetDouble(label, 1, "%%: %-+8.3lG\n%%");
     ZelGUILabelSetDouble(label, 1, "%1000.f");
-    ZelGUIDialogLaunch(dialog);
 }
 
-REGISTER_ENTRIES
+REGISTER_FILLING_ENTRIES

@@ -4,22 +4,14 @@
 
 static void wrong(void)
 {
-    makeDialogWithInit(0);
-    ZelGUILabelAdd(dialog, 100, 100,
-                   "Gr\xf6\xdf"
-                   "e");
-    ZelGUIDialogLaunch(dialog);
+    ZelGUILabelAdd(dialog, 100, 100, "S\xfc\xdf");
 }
 
 static void valid(void)
 {
-    makeDialogWithInit(0);
-    ZelGUILabelAdd(dialog, 100, 100,
-                   "Gr\xc3\xb6\xc3\x9f"
-                   "e");
+    ZelGUILabelAdd(dialog, 100, 100, "S\xc3\xbc\xc3\x9f");
     ZelGUISetToolTip(dialog, "\xef\xbb\xbfWith a byte order mark, \xef\xbf\xbd and \xf0\x9f\x99\x82");
     ZelGUIFrameAdd(dialog, 100, 300, 1000, 300, 0);
-    ZelGUIDialogLaunch(dialog);
 }
 
-REGISTER_ENTRIES
+REGISTER_FILLING_ENTRIES

@@ -24,11 +24,29 @@ static void makeDialogWithInit(ZelGUIVoidCallback init)
     dialog = ZelGUIDialogCreateModeless(ZELGUI_MAIN_WINDOW, 4000, 1000, "Dialog", init, drop, NULL);
 }
 
-#define REGISTER_ENTRIES                                                                                               \
+#define REGISTER_ENTRIES REGISTER(wrong, valid)
+
+/* For entries that fill a new dialog, which is launched then. */
+#define REGISTER_FILLING_ENTRIES                                                                                       \
+    static void launchWrong(void)                                                                                      \
+    {                                                                                                                  \
+        makeDialogWithInit(0);                                                                                         \
+        wrong();                                                                                                       \
+        ZelGUIDialogLaunch(dialog);                                                                                    \
+    }                                                                                                                  \
+    static void launchValid(void)                                                                                      \
+    {                                                                                                                  \
+        makeDialogWithInit(0);                                                                                         \
+        valid();                                                                                                       \
+        ZelGUIDialogLaunch(dialog);                                                                                    \
+    }                                                                                                                  \
+    REGISTER(launchWrong, launchValid)
+
+#define REGISTER(launchWrong, launchValid)                                                                             \
     void ZelAddOnInit(void)                                                                                            \
     {                                                                                                                  \
-        ZelUtilAddOnRegister("Wrong", "Does something wrong", wrong);                                                  \
-        ZelUtilAddOnRegister("Valid", "Does something similar", valid);                                                \
+        ZelUtilAddOnRegister("Wrong", "Does something wrong", launchWrong);                                            \
+        ZelUtilAddOnRegister("Valid", "Does something similar", launchValid);                                          \
     }
 
 #endif

@@ -4,27 +4,21 @@
 
 static void wrong(void)
 {
-    makeDialogWithInit(0);
     ZelGUIButtonAdd(dialog, 3500, 100, 1000, 140, "Cut off", 0);
     ZelGUIListAdd(ZelGUIFrameAdd(dialog, 100, 300, 1000, 500, 0), 100, 100, 800, 600, 0, 0);
-    ZelGUIDialogLaunch(dialog);
 }
 
 static void valid(void)
 {
-    int tab, form, page;
-    makeDialogWithInit(0);
+    const int tab = ZelGUITabAdd(dialog, 1200, 400, 1000, 600, 0, 0),
+              form = ZelGUIFormAdd(dialog, 2400, 300, 1500, 700);
     ZelGUIButtonAdd(dialog, 3000, 50, 1000, 140, "At the edge", 0);
     ZelGUIListAdd(ZelGUIFrameAdd(dialog, 100, 300, 1000, 700, "At the edge"), 1, 1, 1000, 700, 0, 0);
-    tab = ZelGUITabAdd(dialog, 1200, 400, 1000, 600, 0, 0);
     ZelGUITabAddPage(tab, "Shown");
     ZelGUITextAdd(ZelGUITabAddPage(tab, "Hidden"), 100, 100, 800, 400, 0, 0);
-    form = ZelGUIFormAdd(dialog, 2400, 300, 1500, 700);
     ZelGUIFormAddPage(form);
-    page = ZelGUIFormAddPage(form);
-    ZelGUILabelAdd(page, 100, 590, "At the edge");
+    ZelGUILabelAdd(ZelGUIFormAddPage(form), 100, 590, "At the edge");
     ZelGUILabelAdd(dialog, 0, 0, "In the corner");
-    ZelGUIDialogLaunch(dialog);
 }
 
-REGISTER_ENTRIES
+REGISTER_FILLING_ENTRIES

@@ -6,7 +6,6 @@ static int list, menu, box;
 
 static void fill(void)
 {
-    makeDialogWithInit(0);
     list = ZelGUIListAdd(dialog, 100, 300, 1000, 500, 1, 0);
     menu = ZelGUIOptionMenuAdd(dialog, 100, 100, 1000, 140, "a, b, c", 0);
     box = ZelGUIRadioBoxAdd(dialog, 2000, 100, 1000, 500, "a", "b", "c", 0, 0, 0);
@@ -24,7 +23,6 @@ static void wrong(void)
     ZelGUIListSetSelectedItems(list, positions, 2);
     ZelGUIOptionMenuSet(menu, 4);
     ZelGUIRadioBoxSetToggle(box, 4);
-    ZelGUIDialogLaunch(dialog);
 }
 
 static void valid(void)
@@ -39,7 +37,6 @@ static void valid(void)
     ZelGUIOptionMenuSet(menu, 0);
     ZelGUIOptionMenuSet(menu, 3);
     ZelGUIRadioBoxSetToggle(box, 3);
-    ZelGUIDialogLaunch(dialog);
 }
 
-REGISTER_ENTRIES
+REGISTER_FILLING_ENTRIES

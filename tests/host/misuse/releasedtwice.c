@@ -5,27 +5,21 @@
 static void wrong(void)
 {
     static char own[] = "own";
-    char *text, *copy;
-    makeDialogWithInit(0);
-    text = ZelGUITextFieldGetString(ZelGUITextFieldAdd(dialog, 100, 100, 1000, 140, 0));
+    char *copy, *text = ZelGUITextFieldGetString(ZelGUITextFieldAdd(dialog, 100, 100, 1000, 140, 0));
     copy = text;
     ZelUtilStringDealloc(&text);
     ZelUtilStringDealloc(&copy);
     copy = own;
     ZelUtilStringDealloc(&copy);
-    ZelGUIDialogLaunch(dialog);
 }
 
 static void valid(void)
 {
-    char *text;
     IndexSet set = 0;
-    makeDialogWithInit(0);
-    text = ZelGUITextFieldGetString(ZelGUITextFieldAdd(dialog, 100, 100, 1000, 140, 0));
+    char *text = ZelGUITextFieldGetString(ZelGUITextFieldAdd(dialog, 100, 100, 1000, 140, 0));
     ZelUtilStringDealloc(&text);
     ZelUtilStringDealloc(&text);
     ZelUtilSetDealloc(&set);
-    ZelGUIDialogLaunch(dialog);
 }
 
-REGISTER_ENTRIES
+REGISTER_FILLING_ENTRIES

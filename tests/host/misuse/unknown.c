@@ -4,18 +4,14 @@
 
 static void wrong(void)
 {
-    makeDialogWithInit(0);
     ZelGUILabelSetText(99, "text");
     ZelGUISetSensitivity(ZelGUILabelAdd(ZELGUI_MAIN_WINDOW, 100, 100, "no child of the main window"), 1);
-    ZelGUIDialogLaunch(dialog);
 }
 
 static void valid(void)
 {
-    makeDialogWithInit(0);
     ZelGUILabelSetText(ZelGUILabelAdd(dialog, 100, 100, "text"), "text");
     ZelGUIDialogSetPosition(99, 1, 1);
-    ZelGUIDialogLaunch(dialog);
 }
 
-REGISTER_ENTRIES
+REGISTER_FILLING_ENTRIES

@@ -2,20 +2,19 @@
 /* Results that are not released. */
 #include "misuse.h"
 
-static int field;
-
-static void fill(void)
+static int addField(void)
 {
-    makeDialogWithInit(0);
-    field = ZelGUITextFieldAdd(dialog, 100, 100, 1000, 140, 0);
+    const int field = ZelGUITextFieldAdd(dialog, 100, 100, 1000, 140, 0);
     ZelGUITextFieldSetString(field, "1-3");
+    return field;
 }
 
 static void wrong(void)
 {
     IndexSet set;
     int *positions, count;
-    const int list = (fill(), ZelGUIListAdd(dialog, 100, 300, 1000, 500, 1, 0));
+    const int list = ZelGUIListAdd(dialog, 100, 300, 1000, 500, 1, 0);
+    const int field = addField();
     ZelGUIListAppendItem(list, "a");
     ZelGUIListSetSelectedItem(list, 1);
     ZelGUIListGetSelectedItems(list, &positions, &count);
@@ -23,14 +22,14 @@ static void wrong(void)
     ZelGUITextFieldGetString(field);
     ZelGUITextFieldGetSet(field, &set);
     ZelUtilStringListAlloc();
-    ZelGUIDialogLaunch(dialog);
 }
 
 static void valid(void)
 {
     IndexSet set, none = 0;
     int *positions, count;
-    char *text = (fill(), ZelGUITextFieldGetString(field));
+    const int field = addField();
+    char *text = ZelGUITextFieldGetString(field);
     const int list = ZelGUIListAdd(dialog, 100, 300, 1000, 500, 1, 0);
     ZelUtilStringDealloc(&text);
     /* With nothing selected there is no array. */
@@ -40,7 +39,6 @@ static void valid(void)
     ZelUtilSetDealloc(&set);
     ZelGUITextFieldSetString(field, "no set");
     ZelGUITextFieldGetSet(field, &none);
-    ZelGUIDialogLaunch(dialog);
 }
 
-REGISTER_ENTRIES
+REGISTER_FILLING_ENTRIES

@@ -12,28 +12,15 @@ static void setItems(int list, const char *text)
 
 static void wrong(void)
 {
-    makeDialogWithInit(0);
-    ZelGUIButtonAdd(dialog, 100, 100, 1000, 140,
-                    "Gr\xc3\xb6\xc3\x9f"
-                    "e",
-                    0);
-    setItems(ZelGUIListAdd(dialog, 100, 300, 1000, 500, 0, 0), "Stra\xc3\x9f"
-                                                               "e");
-    ZelGUIDialogLaunch(dialog);
+    ZelGUIButtonAdd(dialog, 100, 100, 1000, 140, "S\xc3\xbc\xc3\x9f", 0);
+    setItems(ZelGUIListAdd(dialog, 100, 300, 1000, 500, 0, 0), "Spa\xc3\x9f");
 }
 
 static void valid(void)
 {
-    makeDialogWithInit(0);
-    ZelGUIButtonAdd(dialog, 100, 100, 1000, 140,
-                    "Gr\xf6\xdf"
-                    "e",
-                    0);
-    setItems(ZelGUIListAdd(dialog, 100, 300, 1000, 500, 0, 0), "Stra\xdf"
-                                                               "e");
-    ZelGUIListAppendItem(ZelGUIListAdd(dialog, 1200, 300, 1000, 500, 0, 0), "Stra\xc3\x9f"
-                                                                            "e");
-    ZelGUIDialogLaunch(dialog);
+    ZelGUIButtonAdd(dialog, 100, 100, 1000, 140, "S\xfc\xdf", 0);
+    setItems(ZelGUIListAdd(dialog, 100, 300, 1000, 500, 0, 0), "Spa\xdf");
+    ZelGUIListAppendItem(ZelGUIListAdd(dialog, 1200, 300, 1000, 500, 0, 0), "Spa\xc3\x9f");
 }
 
-REGISTER_ENTRIES
+REGISTER_FILLING_ENTRIES
