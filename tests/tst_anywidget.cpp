@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QApplication>
@@ -8,6 +9,9 @@
 #include <QRadioButton>
 
 using namespace Callback;
+
+using Add = int (*)(int dialog);
+Q_DECLARE_METATYPE(Add)
 
 /// Tool tips, focus, sensitivity and visibility reach all that a widget is made of.
 class tst_AnyWidget : public ZelTest
@@ -19,38 +23,39 @@ private Q_SLOTS:
     void everyConstituent();
     void onlyOneIsTrue();
     void focusOfARejectingField();
-
-private:
-    int m_dialog = -2;
 };
 
 void tst_AnyWidget::everyConstituent_data()
 {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<int>("count");
-    for (const auto &[kind, count] : {std::pair("label", 1), std::pair("toggle", 1), std::pair("radio box", 3),
-                                      std::pair("scale", 2), std::pair("spin text field", 2), std::pair("frame", 1)})
-        QTest::newRow(kind) << QString::fromLatin1(kind) << count;
+    const Rows<Add, int> row("add", "count");
+    row(
+        "label", [](int dialog) { return ZelGUILabelAdd(dialog, 100, 300, "Label"); }, 1);
+    row(
+        "toggle", [](int dialog) { return ZelGUIToggleAdd(dialog, 100, 300, 1000, 100, "Toggle", nullptr); }, 1);
+    row(
+        "radio box",
+        [](int dialog) {
+            return ZelGUIRadioBoxAdd(dialog, 100, 300, 1000, 300, "A", "B", "C", nullptr, nullptr, nullptr);
+        },
+        3);
+    row(
+        "scale", [](int dialog) { return ZelGUIScaleAdd(dialog, 100, 300, 1000, 100, 0, 9, 0, nullptr, nullptr); }, 2);
+    row(
+        "spin text field",
+        [](int dialog) { return ZelGUISpinTextFieldAdd(dialog, 100, 300, 1000, 100, nullptr, nullptr, nullptr); }, 2);
+    row(
+        "frame", [](int dialog) { return ZelGUIFrameAdd(dialog, 100, 300, 1000, 100, "Frame"); }, 1);
 }
 
 void tst_AnyWidget::everyConstituent()
 {
-    QFETCH(QString, kind);
+    QFETCH(Add, add);
     QFETCH(int, count);
-    const int dialog = createModeless();
-    ZelGUIDialogLaunch(dialog);
-    QWidget *const window = object<QDialog>(dialog);
-    QVERIFY(waitUntilActive(window));
-    const auto before = window->findChildren<QWidget *>();
-    const int id = kind == "label"    ? ZelGUILabelAdd(dialog, 100, 300, "Label")
-                   : kind == "toggle" ? ZelGUIToggleAdd(dialog, 100, 300, 1000, 100, "Toggle", nullptr)
-                   : kind == "radio box"
-                       ? ZelGUIRadioBoxAdd(dialog, 100, 300, 1000, 300, "A", "B", "C", nullptr, nullptr, nullptr)
-                   : kind == "scale" ? ZelGUIScaleAdd(dialog, 100, 300, 1000, 100, 0, 9, 0, nullptr, nullptr)
-                   : kind == "frame" ? ZelGUIFrameAdd(dialog, 100, 300, 1000, 100, "Frame")
-                                     : ZelGUISpinTextFieldAdd(dialog, 100, 300, 1000, 100, nullptr, nullptr, nullptr);
+    const int dialog = launchModeless();
+    const auto before = object<QWidget>(dialog)->findChildren<QWidget *>();
+    const int id = add(dialog);
     QList<QWidget *> parts;
-    for (QWidget *const widget : window->findChildren<QWidget *>()) {
+    for (QWidget *const widget : object<QWidget>(dialog)->findChildren<QWidget *>()) {
         if (!before.contains(widget))
             parts << widget;
     }
@@ -66,8 +71,7 @@ void tst_AnyWidget::everyConstituent()
     }
     ZelGUISetSensitivity(id, 1);
     ZelGUISetInputFocus(id);
-    QWidget *const chief = kind == "spin text field" ? object<QWidget>(id) : parts.first();
-    QCOMPARE(QApplication::focusWidget(), chief);
+    QCOMPARE(QApplication::focusWidget(), object<QWidget>(id) ? object<QWidget>(id) : parts.first());
     ZelGUISetVisibility(id, 0);
     for (const QWidget *const part : parts)
         QVERIFY(!part->isVisible());

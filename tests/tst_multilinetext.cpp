@@ -26,24 +26,18 @@ private Q_SLOTS:
 
 void tst_MultiLineText::comesBackAsPutIn_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QByteArray>("expected");
-    const auto same = [](const char *name, const QByteArray &text) { QTest::newRow(name) << text << text; };
+    const Rows<QByteArray, QByteArray> row("text", "expected");
+    const auto same = [&row](const char *name, const QByteArray &text) { row(name, text, text); };
     same("empty", "");
     same("empty lines at both ends", "\n\na\n\n");
-    same("no-break space", "a\xC2\xA0"
-                           "b");
-    same("line separator", "a\xE2\x80\xA8"
-                           "b");
-    same("byte order mark", "\xEF\xBB\xBF"
-                            "a");
+    same("no-break space", "a\xC2\xA0z");
+    same("line separator", "a\xE2\x80\xA8z");
+    same("byte order mark", "\xEF\xBB\xBFz");
     same("combining character, emoji, tab", "e\xCC\x81 \xF0\x9F\x98\x80\t.");
     same("object replacement character", "\xEF\xBF\xBC");
     same("control characters", "\x01\x0B\x0C\x1B\x7F");
     same("a million lines", QByteArray("line\n").repeated(1000000));
-    QTest::newRow("other line ends") << QByteArray("a\r\nb\rc\xE2\x80\xA9"
-                                                   "d")
-                                     << QByteArray("a\nb\nc\nd");
+    row("other line ends", "a\r\nb\rc\xE2\x80\xA9z", "a\nb\nc\nz");
 }
 
 void tst_MultiLineText::comesBackAsPutIn()

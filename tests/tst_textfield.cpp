@@ -56,15 +56,13 @@ void tst_TextField::init()
 
 void tst_TextField::strings_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("emoji, combining character") << QByteArray("\xF0\x9F\x98\x80 e\xCC\x81");
-    QTest::newRow("no-break space, U+2028") << QByteArray("a\xC2\xA0"
-                                                          "b\xE2\x80\xA8"
-                                                          "c");
-    QTest::newRow("byte order marks") << QByteArray("\xEF\xBB\xBF\xEF\xBB\xBFx\xEF\xBB\xBF");
-    QTest::newRow("line feed, tab") << QByteArray("a\nb\tc");
-    QTest::newRow("as long as a line can be") << QByteArray(32767, 'x');
+    const Rows<QByteArray> row("text");
+    row("empty", "");
+    row("emoji, combining character", "\xF0\x9F\x98\x80 e\xCC\x81");
+    row("no-break space, U+2028", "x\xC2\xA0y\xE2\x80\xA8z");
+    row("byte order marks", "\xEF\xBB\xBF\xEF\xBB\xBFx\xEF\xBB\xBF");
+    row("line feed, tab", "a\nb\tc");
+    row("as long as a line can be", QByteArray(32767, 'x'));
 }
 
 void tst_TextField::strings()

@@ -413,15 +413,14 @@ void TestZvsdkbase::errorMessageIsPlainText()
     QMainWindow window;
     window.show();
     const BoxVisitor visitor([&window](QMessageBox *box) {
-        QCOMPARE(box->text(), QString::fromUtf8("<b>Größe</b> & more"));
+        QCOMPARE(box->text(), QString::fromUtf8("<b>Grüß</b> & more"));
         QCOMPARE(box->textFormat(), Qt::PlainText);
         QCOMPARE(box->icon(), QMessageBox::Critical);
         QCOMPARE(box->windowTitle(), QGuiApplication::applicationDisplayName());
         QCOMPARE(box->parentWidget(), &window);
         QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
     });
-    ZelUtilDialogErrMsg("<b>Gr\xC3\xB6\xC3\x9F"
-                        "e</b> & more");
+    ZelUtilDialogErrMsg("<b>Gr\xC3\xBC\xC3\x9F</b> & more");
     QVERIFY(visitor.visited());
     QVERIFY(window.findChildren<QMessageBox *>().isEmpty());
 }
