@@ -3,11 +3,9 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
-#include <QMenu>
 #include <QTimer>
 
 using namespace Callback;

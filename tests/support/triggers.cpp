@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMouseEvent>
 #include <QStyleOptionSpinBox>
 #include <QTabBar>
 #include <QTabWidget>
@@ -71,12 +70,8 @@ Gesture clickArrow(QStyle::SubControl arrow)
 
 const Gesture kDrag = {"dragged", [](QWidget *scale) {
                            const QPoint handle(5, scale->height() / 2);
-                           const QPoint middle(scale->width() / 2, scale->height() / 2);
                            QTest::mousePress(scale, Qt::LeftButton, Qt::NoModifier, handle);
-                           // The test library of Qt 5 moves the mouse without its buttons.
-                           QMouseEvent move(QEvent::MouseMove, middle, scale->mapToGlobal(middle), Qt::NoButton,
-                                            Qt::LeftButton, Qt::NoModifier);
-                           QApplication::sendEvent(scale, &move);
+                           ZelTest::dragTo(scale, QPoint(scale->width() / 2, scale->height() / 2));
                        }};
 
 Gesture chooseInPopup(const char *name, const Gesture &choose)

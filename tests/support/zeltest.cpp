@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QMetaEnum>
+#include <QMouseEvent>
 #include <QTimer>
 
 #include <array>
@@ -132,6 +133,13 @@ int ZelTest::launchModeless()
         QTest::qFail("The dialog has not become active", __FILE__, __LINE__);
     Callback::log().clear();
     return dialog;
+}
+
+void ZelTest::dragTo(QWidget *widget, const QPoint &position)
+{
+    QMouseEvent move(QEvent::MouseMove, position, widget->mapToGlobal(position), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(widget, &move);
 }
 
 QAbstractButton *ZelTest::boxButton(QWidget *dialog, const QString &text)

@@ -119,6 +119,8 @@ public:
         widget->show();
         return widget;
     }
+    /// Moves the mouse with the left button down; the test library of Qt 5 moves it without its buttons.
+    static void dragTo(QWidget *widget, const QPoint &position);
     /// The button box's button with that text, mnemonics aside.
     static QAbstractButton *boxButton(QWidget *dialog, const QString &text);
 
