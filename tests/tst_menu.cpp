@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTimer>
 
 using namespace Callback;
 
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void deletedItem();
     void setToggle();
     void setToggleInCallback();
+    void rightClickOffersNothing();
 
 private:
     void clickTitle(int place);
@@ -160,6 +162,22 @@ void tst_Menu::setToggleInCallback()
         clickEntry(object<QMenu>(m_file), 2);
     }
     QCOMPARE(log(), QStringList({"MenuToggle 1", "MenuToggle 0", "MenuToggle 1", "MenuToggle 0"}));
+}
+
+void tst_Menu::rightClickOffersNothing()
+{
+    bool isOffered = false;
+    QTimer::singleShot(0, m_bar, [&] {
+        if (QWidget *const popup = QApplication::activePopupWidget()) {
+            isOffered = true;
+            popup->close();
+        }
+    });
+    QWidget *const window = m_bar->window();
+    const QPoint nothing = m_bar->mapTo(window, m_bar->rect().bottomRight() - QPoint(4, 4));
+    QTest::mouseClick(window->windowHandle(), Qt::RightButton, {}, nothing);
+    QCoreApplication::processEvents();
+    QVERIFY(!isOffered);
 }
 
 ZELTEST_MAIN(tst_Menu)

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void popups();
     void otherWindow();
     void rejectedTextBeforeOtherWindow();
+    void endedWindowStaysDuringTheReport();
 
 private:
     /// Opens the dialog with the field, which has the focus and the text "bad".
@@ -293,6 +294,36 @@ void tst_TextFieldFocus::rejectedTextBeforeOtherWindow()
     QVERIFY(waitUntilActive(m_window));
     leave();
     QCOMPARE(log(), QStringList({"Text bad"}));
+}
+
+// The toolkit still holds on to windows when it tells a field that another window becomes the active one.
+void tst_TextFieldFocus::endedWindowStaysDuringTheReport()
+{
+    QPointer<QWidget> ended;
+    bool isThere = false;
+    action(Text) = [&] {
+        const auto runLoop = [](const std::function<void()> &step) {
+            QEventLoop loop;
+            QTimer::singleShot(0, &loop, [&] {
+                step();
+                loop.quit();
+            });
+            loop.exec();
+        };
+        ended = new QWidget;
+        runLoop([&] { ended->deleteLater(); });
+        runLoop([] {});
+        isThere = ended;
+    };
+    open();
+    QTest::keyClick(m_widget, Qt::Key_Tab);
+    QVERIFY(!isThere);
+    QVERIFY(!ended);
+
+    m_widget->setFocus();
+    QVERIFY(activate(mainWindow()));
+    QVERIFY(isThere);
+    QTRY_VERIFY(!ended);
 }
 
 ZELTEST_SPIN_MAIN(tst_TextFieldFocus)
