@@ -27,10 +27,12 @@ QMainWindow *searchMainWindow()
 
 QWidget *findMainWindow(bool searchAnew)
 {
-    static QPointer<QMainWindow> lastFound;
-    if (lastFound && !searchAnew)
+    // Never deleted: add-ons may still call while the process ends.
+    static auto &lastFound = *new QPointer<QMainWindow>;
+    const QCoreApplication *const application = QCoreApplication::instance();
+    if (application && lastFound && !searchAnew)
         return lastFound;
-    if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
+    if (!qobject_cast<const QApplication *>(application))
         return nullptr;
     lastFound = searchMainWindow();
     return lastFound;

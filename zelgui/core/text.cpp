@@ -9,7 +9,9 @@
 #include <boost/algorithm/string/trim.hpp>
 #include <boost/range/as_literal.hpp>
 
+#include <algorithm>
 #include <cstring>
+#include <limits>
 #include <locale>
 
 namespace orvane::zelgui {
@@ -58,7 +60,8 @@ QString fromTrimmedLatin1(Characters text)
     const auto &types = std::use_facet<std::ctype<char>>(locale);
     const auto isSpace = [&types](char character) { return types.is(std::ctype_base::space, character); };
     const Characters trimmed = boost::algorithm::trim_copy_if(text, isSpace);
-    return QString::fromLatin1(trimmed.begin(), int(trimmed.size()));
+    constexpr std::size_t kLongest = std::numeric_limits<int>::max();
+    return QString::fromLatin1(trimmed.begin(), static_cast<int>(std::min<std::size_t>(trimmed.size(), kLongest)));
 }
 
 QString fromTrimmedLatin1(const char *text)

@@ -14,6 +14,7 @@
 #include <QFocusEvent>
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -80,42 +81,50 @@ private:
     Qt::MouseButtons m_pressed;
 };
 
-/// Keeps windows that are about to be deleted while a field reports that another one is to be active. The toolkit goes
-/// on with both, be it a message or a popup menu that has just ended, once the loss has been reported; a loop inside
-/// the callback must not delete them until then.
-class EndedWindows : public QObject
+/// Keeps popup menus that are about to be deleted while a field reports that its window is not the active one any more.
+/// The toolkit is just making another one active, and goes on with a popup that has ended meanwhile when the loss has
+/// been reported; a loop inside the callback must not delete it until then.
+class EndedPopups : public QObject
 {
 public:
-    EndedWindows() : m_isOutermost(!std::exchange(s_areKept, true))
+    EndedPopups() : m_isOutermost(!std::exchange(s_areKept, true))
     {
-        if (m_isOutermost)
-            qApp->installEventFilter(this);
+        if (!m_isOutermost)
+            return;
+        // Only those: what the add-on makes in its callback goes when it wants it to go.
+        for (QWidget *const window : QApplication::topLevelWidgets()) {
+            if (window->windowType() == Qt::Popup)
+                m_popups.emplace_back(window);
+        }
+        qApp->installEventFilter(this);
     }
-    ~EndedWindows() override
+    ~EndedPopups() override
     {
         if (!m_isOutermost)
             return;
         s_areKept = false;
-        const auto deleteAll = [windows = std::move(m_windows)] {
-            for (const QPointer<QObject> &window : windows)
-                delete window.data();
+        if (m_ended.empty())
+            return;
+        const auto deleteAll = [popups = std::move(m_ended)] {
+            for (const QPointer<QObject> &popup : popups)
+                delete popup.data();
         };
         QMetaObject::invokeMethod(qApp, deleteAll, Qt::QueuedConnection);
     }
     bool eventFilter(QObject *object, QEvent *event) override
     {
-        const bool isWindow =
-            object->isWindowType() || (object->isWidgetType() && static_cast<QWidget *>(object)->isWindow());
-        if (event->type() != QEvent::DeferredDelete || !isWindow)
+        if (event->type() != QEvent::DeferredDelete ||
+            std::find(m_popups.begin(), m_popups.end(), object) == m_popups.end())
             return false;
-        m_windows.emplace_back(object);
+        m_ended.emplace_back(object);
         return true;
     }
 
 private:
     inline static bool s_areKept = false;
     const bool m_isOutermost;
-    std::vector<QPointer<QObject>> m_windows;
+    std::vector<QPointer<QObject>> m_popups;
+    std::vector<QPointer<QObject>> m_ended;
 };
 
 } // namespace
@@ -203,9 +212,9 @@ void ZelGUITextField::focusOutEvent(QFocusEvent *event)
     if (!isToReport)
         return;
     const InterruptedClick click(reason);
-    std::optional<EndedWindows> endedWindows;
+    std::optional<EndedPopups> endedPopups;
     if (reason == Qt::ActiveWindowFocusReason)
-        endedWindows.emplace();
+        endedPopups.emplace();
     editingFinished();
 }
 
