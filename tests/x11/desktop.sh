@@ -15,7 +15,7 @@ manager=''
 server=''
 # Those that have not been started yet are no words at all.
 # shellcheck disable=SC2086
-trap 'kill $host $manager $server 2>/dev/null || true; rm -rf "$folder"' EXIT
+trap 'kill $host $manager $server 2>/dev/null || true; wait $server 2>/dev/null || true; rm -rf "$folder"' EXIT
 
 # Runs a command until it succeeds, for ten seconds at most.
 wait_until() {
@@ -68,11 +68,17 @@ end_host_without() {
     wait "$host" || { echo "The host fails with $?"; exit 1; }
 }
 
-Xvfb -displayfd 3 -screen 0 1024x768x24 -dpi 96 -nolisten tcp 3>"$folder/display" 2>/dev/null &
-server=$!
-wait_until test -s "$folder/display"
-DISPLAY=:$(cat "$folder/display")
-export DISPLAY QT_QPA_PLATFORM=xcb
-openbox --sm-disable 2>/dev/null &
-manager=$!
-wait_until managed
+start_desktop() {
+    Xvfb -displayfd 3 -screen 0 1024x768x24 -dpi 96 -nolisten tcp 3>"$folder/display" 2>/dev/null &
+    server=$!
+    wait_until test -s "$folder/display" || return 1
+    DISPLAY=:$(cat "$folder/display")
+    export DISPLAY
+    openbox --sm-disable 2>/dev/null &
+    manager=$!
+    wait_until managed
+}
+
+export QT_QPA_PLATFORM=xcb
+# A server that is just ending can take the display's socket with it.
+start_desktop || { kill "$manager" "$server" 2>/dev/null || true; start_desktop; }
