@@ -69,6 +69,7 @@ end_host_without() {
 }
 
 start_desktop() {
+    rm -f "$folder/display"
     Xvfb -displayfd 3 -screen 0 1024x768x24 -dpi 96 -nolisten tcp 3>"$folder/display" 2>/dev/null &
     server=$!
     wait_until test -s "$folder/display" || return 1
@@ -81,4 +82,8 @@ start_desktop() {
 
 export QT_QPA_PLATFORM=xcb
 # A server that is just ending can take the display's socket with it.
-start_desktop || { kill "$manager" "$server" 2>/dev/null || true; start_desktop; }
+start_desktop || {
+    kill "$manager" "$server" 2>/dev/null || true
+    wait "$server" 2>/dev/null || true
+    start_desktop
+}
