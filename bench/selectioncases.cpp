@@ -43,7 +43,7 @@ void selectOneByOneBare(List &list)
 /// A list of the toolkit's own, which tells somebody of its selection as the library's does.
 std::shared_ptr<QListWidget> bareList(const List &list)
 {
-    const auto bare = std::make_shared<QListWidget>();
+    auto bare = std::make_shared<QListWidget>();
     bare->setSelectionMode(QAbstractItemView::ExtendedSelection);
     for (int i = 0; i < list.size; ++i)
         bare->addItem(QString::fromUtf8("An item"));
