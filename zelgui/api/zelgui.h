@@ -18,6 +18,7 @@
  *    and never exceed 32767 (8192 for a dialog). A position counts from the parent's top left corner, and only if both
  *    x and y are greater than 0; else the widget stays in that corner. A width or height of 0 or less leaves that
  *    dimension to the toolkit. The sizes are fixed when the widget is made and do not follow later changes of the font.
+ *    A button, option menu or spin field with more pixels than the largest dialog is painted as a plain area.
  *
  * 3. Parents. A widget's parent is a dialog, or a page or frame inside one. It lives as long as its parent; there is
  *    no function to destroy it. A widget that is added to a dialog already visible stays hidden until
