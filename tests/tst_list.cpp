@@ -58,7 +58,8 @@ Positions selectionOf(int id)
     int *selected = nullptr;
     int count = 0;
     ZelGUIListGetSelectedItems(id, &selected, &count);
-    const Positions positions(selected, selected + count);
+    // A host without memory hands out a number alone.
+    const Positions positions(selected, selected ? selected + count : selected);
     release(selected);
     return positions;
 }
@@ -530,6 +531,7 @@ void tst_List::handedOutSelection()
     ZelGUIListGetSelectedItems(id, nullptr, &count);
     QCOMPARE(count, 2);
     ZelGUIListGetSelectedItems(id, &selected, nullptr);
+    QVERIFY(selected);
     QCOMPARE(Positions(selected, selected + 2), Positions({2, 3}));
     // Memory of the host's, which it can account for.
     const auto unreleased = orvane::host::unreleased();

@@ -2,6 +2,8 @@
 #ifndef TESTS_SUPPORT_ZELTEST_H
 #define TESTS_SUPPORT_ZELTEST_H
 
+#include "scarcehost.h"
+
 #include <zelgui/zelgui.h>
 
 #include <QAbstractButton>
@@ -145,7 +147,7 @@ private:
     {                                                                                                                  \
         QApplication application(argc, argv);                                                                          \
         Test test;                                                                                                     \
-        return QTest::qExec(&test, argc, argv);                                                                        \
+        return ScarceHost::runTest(test, QCoreApplication::arguments());                                               \
     }
 
 /// The same for a test of what text fields and spin text fields have in common: called with "spin", it is about those.
@@ -155,7 +157,7 @@ private:
         QApplication application(argc, argv);                                                                          \
         QStringList arguments = QCoreApplication::arguments();                                                         \
         Test test(arguments.removeOne(QStringLiteral("spin")));                                                        \
-        return QTest::qExec(&test, arguments);                                                                         \
+        return ScarceHost::runTest(test, arguments);                                                                   \
     }
 
 #endif

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host.h"
 
+#include "support/scarcehost.h"
+
 #include <zelgui/zelgui.h>
 #include <zvsdkbase/hostcontrol.h>
 
@@ -18,6 +20,10 @@ void plan(Fault fault, std::int64_t occasion)
 {
     plannedFault = fault;
     plannedOccasion = occasion;
+    ScarceHost::setRefusal([](ScarceHost::Thing thing) {
+        static constexpr Fault kFaults[] = {Fault::NoString, Fault::NoSet, Fault::NoMember, Fault::NoStringList};
+        return happens(kFaults[thing]);
+    });
 }
 
 bool happens(Fault fault)
@@ -61,47 +67,9 @@ void checkLedger()
 
 using namespace torture;
 
-#define ORIGINAL(name) static const auto original = originalOf(&name, #name)
-
-char *ZelUtilStringAlloc(size_t size, const char *label)
-{
-    ORIGINAL(ZelUtilStringAlloc);
-    return happens(Fault::NoString) ? nullptr : original(size, label);
-}
-
-IndexSet ZelUtilSetAlloc(ZelBoolean showErrors)
-{
-    ORIGINAL(ZelUtilSetAlloc);
-    return happens(Fault::NoSet) ? nullptr : original(showErrors);
-}
-
-ZelBoolean ZelUtilSetAddMember(IndexSet set, LgIndex member, ZelBoolean showErrors)
-{
-    ORIGINAL(ZelUtilSetAddMember);
-    return happens(Fault::NoMember) ? 0 : original(set, member, showErrors);
-}
-
-ZelBoolean ZelUtilSetAddRange(IndexSet set, LgIndex first, LgIndex last, LgIndex step, ZelBoolean showErrors)
-{
-    ORIGINAL(ZelUtilSetAddRange);
-    return happens(Fault::NoMember) ? 0 : original(set, first, last, step, showErrors);
-}
-
-StringList_s *ZelUtilStringListAlloc(void)
-{
-    ORIGINAL(ZelUtilStringListAlloc);
-    return happens(Fault::NoStringList) ? nullptr : original();
-}
-
-ZelBoolean ZelUtilStringListAppendString(StringList_s *list, const char *string)
-{
-    ORIGINAL(ZelUtilStringListAppendString);
-    return happens(Fault::NoStringList) ? 0 : original(list, string);
-}
-
 void ZelUtilDialogErrMsg(const char *message)
 {
-    ORIGINAL(ZelUtilDialogErrMsg);
+    static const auto original = ScarceHost::originalOf(&ZelUtilDialogErrMsg, "ZelUtilDialogErrMsg");
     if (areMessagesShown && !ZelUtilMacroIsBatchModeActive())
         original(message);
 }

@@ -10,18 +10,9 @@
 #include <cstdint>
 #include <vector>
 
-#include <dlfcn.h>
-
-/// A host that fails on demand. The test program stands before the libraries with functions of the same names: the
-/// host's, which may fail, and the library's, after each of which the host may do what it likes.
+/// A host that fails on demand: that refuses what it is asked for, and that may do what it likes after each call of the
+/// library, before whose functions the test program stands with its own.
 namespace torture {
-
-/// The function of that name that would have been called without ours.
-template <typename Function>
-Function originalOf(Function, const char *name)
-{
-    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
-}
 
 /// Has a fault happen at one of its occasions, counted from 1 within the round.
 void plan(Fault fault, std::int64_t occasion);

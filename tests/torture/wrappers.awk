@@ -22,7 +22,7 @@ isInside && /;$/ {
         arguments = arguments (i > 1 ? ", " : "") substr(parts[i], RSTART)
     }
     print result name "(" parameters ")\n{"
-    print "    static const auto original = torture::originalOf(&" name ", \"" name "\");"
+    print "    static const auto original = ScarceHost::originalOf(&" name ", \"" name "\");"
     print "    const torture::CallEnd callEnd;"
     print "    return original(" arguments ");\n}\n"
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The library's functions, as add-ons and rounds find them.
 #include "host.h"
+#include "support/scarcehost.h"
 
 #include <zelgui/zelgui.h>
 

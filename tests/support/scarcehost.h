@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#ifndef TESTS_SUPPORT_SCARCEHOST_H
+#define TESTS_SUPPORT_SCARCEHOST_H
+
+#include <QObject>
+#include <QStringList>
+
+#include <dlfcn.h>
+
+/// A host that runs out of memory on demand: the test program stands before the host's libraries with functions of the
+/// same names.
+namespace ScarceHost {
+
+enum Thing { String, Set, Member, StringList };
+
+/// Is asked whenever add-ons or the library want something of the host; true refuses it.
+using Refusal = bool (*)(Thing thing);
+void setRefusal(Refusal refusal);
+
+/// The function of that name that would have been called without ours.
+template <typename Function>
+Function originalOf(Function, const char *name)
+{
+    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
+}
+
+/// Runs a test, as QTest::qExec does, unless the environment asks for scarcity. With ZELGUI_REFUSED=17, the host
+/// refuses the 17th thing it is asked for. With ZELGUI_REFUSALS=100, each test function runs once for each thing the
+/// host is asked for in it, which is refused then; where there are more than a hundred, for a hundred of them. Whether
+/// the test still passes doesn't matter then, only that the process goes on; but a test that asks for nothing fails.
+/// The answer is for main() to return.
+int runTest(QObject &test, const QStringList &arguments);
+
+} // namespace ScarceHost
+
+#endif
