@@ -43,6 +43,13 @@ QString formatted(const std::string &format, double value)
     return QString::fromLatin1(text.data());
 }
 
+// Of two texts that are as near, C takes the even one and the toolkit the one further from zero.
+bool isWrittenAs(const QString &text, const std::string &format, double value)
+{
+    const double further = std::nextafter(value, std::copysign(HUGE_VAL, value));
+    return text == formatted(format, value) || text == formatted(format, further);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
@@ -65,7 +72,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const QString shown = FuzzHost::object<QLabel>(label)->text();
     const QString asText = FuzzHost::fromUtf8(format.c_str());
     if (std::isfinite(value) && isPlainFormat(asText))
-        require(shown == formatted(format, value), "a number is shown in its format");
+        require(isWrittenAs(shown, format, value), "a number is shown in its format");
     if (isDangerous(asText))
         require(shown == QLatin1String("before") && FuzzHost::textOf(field) == QLatin1String("before"),
                 "what is no format for a number changes nothing");

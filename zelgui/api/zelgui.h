@@ -389,7 +389,8 @@ ZELGUI_API void ZelGUILabelSetText(int labelId, const char *text);
  * Shows a number in a label.
  *
  * @param format  printf format with exactly one conversion, of kind e, f, g or a in either case, with a width and
- *                precision of at most 1000 and without '*', such as "%.3f mm"; any other format changes nothing
+ *                precision of at most 1000 and without '*', such as "%.3f mm"; any other format changes nothing. What
+ *                lies exactly between two texts is rounded away from zero: 2.5 in "%.0f" is "3", where C writes "2"
  */
 ZELGUI_API void ZelGUILabelSetDouble(int labelId, double value, const char *format);
 
