@@ -8,7 +8,6 @@
 #include <QFontMetrics>
 #include <QLabel>
 #include <QScrollBar>
-#include <QStyle>
 #include <QWidget>
 
 #include <algorithm>
@@ -78,11 +77,7 @@ void placeWidget(QWidget *widget, int x, int y, int width, int height)
 void placeScrollArea(QAbstractScrollArea *area, int x, int y, int width, int height)
 {
     placeWidget(area, x, y, width, height);
-    // The style's measure of a scroll bar is the width it will have; a size hint takes five times as long.
-    const auto barWidth = [area](const QScrollBar *bar) {
-        return area->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, bar);
-    };
-    const int bars = barWidth(area->verticalScrollBar()) + barWidth(area->horizontalScrollBar());
+    const int bars = area->verticalScrollBar()->sizeHint().width() + area->horizontalScrollBar()->sizeHint().height();
     const QSize room = area->maximumSize() - QSize(bars, bars);
     if (room.width() <= 2 * area->frameWidth() || room.height() <= 2 * area->frameWidth()) {
         area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
