@@ -52,6 +52,8 @@ void tst_Label::doubles_data()
     row("text and percent signs around", 50.0, "100%% > %.0f %%", "100% > 50 %");
     row("UTF-8 around", 20.0, "%g \xC2\xB0.", "20 \xC2\xB0.");
     row("a point without digits", 3.5, "%.f", "4");
+    row("halfway is away from zero", 2.5, "%.0f", "3");
+    row("halfway below zero", -2.5, "%.0f", "-3");
     row("widest", 1.0, "%1000.0f", QString(999, QLatin1Char(' ')) + QLatin1Char('1'));
     // None for one number.
     const char *const bad[] = {"",       "%",       "text",          "%%",   "%d",    "%s",      "%n",

@@ -162,7 +162,7 @@ void tst_SetSteps::refusedString()
     QCOMPARE(object<QLineEdit>(m_field)->text(), QString());
 }
 
-// Its host refuses by itself.
+// ZELTEST_MAIN would bring another set of the host's functions.
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);

@@ -16,13 +16,13 @@ using FuzzHost::require;
 
 namespace {
 
-// Of the formats that do something, those in ASCII which C understands as the toolkit does: not "%a", for example, nor
-// zeros before "nan".
-bool isPlainFormat(const QString &format)
+// Where the conversion of a format stands, as a letter; -1 unless it is one of the formats in ASCII that C understands
+// as the toolkit does: not "%a", for example, nor zeros before "nan".
+int plainConversion(const QString &format)
 {
     static const QRegularExpression plain(QStringLiteral(
-        R"(\A(?:[ -$&-~]|%%)*+%[-+ 0]*+(?:[0-9]{1,3}|1000)?(?:\.(?:[0-9]{1,3}|1000)?)?[eEfFgG](?:[ -$&-~]|%%)*+\z)"));
-    return plain.match(format).hasMatch();
+        R"(\A(?:[ -$&-~]|%%)*+%[-+ 0]*+(?:[0-9]{1,3}|1000)?(?:\.(?:[0-9]{1,3}|1000)?)?([eEfFgG])(?:[ -$&-~]|%%)*+\z)"));
+    return int(plain.match(format).capturedStart(1));
 }
 
 // None of these may do more than nothing.
@@ -32,7 +32,8 @@ bool isDangerous(const QString &format)
     return dangerous.match(format).hasMatch();
 }
 
-QString formatted(const std::string &format, double value)
+template <typename Number>
+QString formatted(const std::string &format, Number value)
 {
     // Room for 309 digits before the point, a precision of 1000, and what surrounds them.
     static std::array<char, 100000> text;
@@ -43,11 +44,16 @@ QString formatted(const std::string &format, double value)
     return QString::fromLatin1(text.data());
 }
 
-// Of two texts that are as near, C takes the even one and the toolkit the one further from zero.
-bool isWrittenAs(const QString &text, const std::string &format, double value)
+// Of two texts that are equally near, C takes the even one and the toolkit the one further from zero. A number that is
+// further by less than any double has only that one nearest to it.
+bool isWrittenAs(const QString &text, const std::string &format, int conversion, double value)
 {
-    const double further = std::nextafter(value, std::copysign(HUGE_VAL, value));
-    return text == formatted(format, value) || text == formatted(format, further);
+    if (text == formatted(format, value))
+        return true;
+    const long double exact = value;
+    std::string longer = format;
+    longer.insert(std::size_t(conversion), 1, 'L');
+    return value != 0 && text == formatted(longer, std::nextafter(exact, exact * 2));
 }
 
 } // namespace
@@ -71,8 +77,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 
     const QString shown = FuzzHost::object<QLabel>(label)->text();
     const QString asText = FuzzHost::fromUtf8(format.c_str());
-    if (std::isfinite(value) && isPlainFormat(asText))
-        require(isWrittenAs(shown, format, value), "a number is shown in its format");
+    const int conversion = plainConversion(asText);
+    if (std::isfinite(value) && conversion >= 0)
+        require(isWrittenAs(shown, format, conversion, value), "a number is shown in its format");
     if (isDangerous(asText))
         require(shown == QLatin1String("before") && FuzzHost::textOf(field) == QLatin1String("before"),
                 "what is no format for a number changes nothing");

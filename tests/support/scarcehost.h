@@ -13,8 +13,8 @@ namespace ScarceHost {
 
 enum Thing { String, Set, Member, StringList };
 
-/// Is asked whenever add-ons or the library want something of the host; true refuses it.
-using Refusal = bool (*)(Thing thing);
+/// Is asked whenever somebody wants something of the host, and from where in memory; true refuses it.
+using Refusal = bool (*)(Thing thing, const void *caller);
 void setRefusal(Refusal refusal);
 
 /// The function of that name that would have been called without ours.
@@ -25,10 +25,11 @@ Function originalOf(Function, const char *name)
 }
 
 /// Runs a test, as QTest::qExec does, unless the environment asks for scarcity. With ZELGUI_REFUSED=17, the host
-/// refuses the 17th thing it is asked for. With ZELGUI_REFUSALS=100, each test function runs once for each thing the
-/// host is asked for in it, which is refused then; where there are more than a hundred, for a hundred of them. Whether
-/// the test still passes doesn't matter then, only that the process goes on; but a test that asks for nothing fails.
-/// The answer is for main() to return.
+/// refuses the 17th thing that it is asked for, what the test program itself asks for aside. With ZELGUI_REFUSALS=100,
+/// each test function, or each of those in `arguments`, runs once for each thing the host is asked for in it, which is
+/// refused then; where there are more, for a hundred of them, which ZELGUI_SEED chooses. Whether the test still passes
+/// doesn't matter then, only that the process goes on. A program that asks for nothing fails. The answer is for main()
+/// to return.
 int runTest(QObject &test, const QStringList &arguments);
 
 } // namespace ScarceHost

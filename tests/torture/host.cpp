@@ -20,7 +20,7 @@ void plan(Fault fault, std::int64_t occasion)
 {
     plannedFault = fault;
     plannedOccasion = occasion;
-    ScarceHost::setRefusal([](ScarceHost::Thing thing) {
+    ScarceHost::setRefusal([](ScarceHost::Thing thing, const void *) {
         static constexpr Fault kFaults[] = {Fault::NoString, Fault::NoSet, Fault::NoMember, Fault::NoStringList};
         return happens(kFaults[thing]);
     });
