@@ -16,6 +16,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSlider>
 
 namespace bench {
@@ -24,15 +25,22 @@ namespace {
 
 void ignore() {}
 
-/// A bare dialog's window; it computes pixels once, as anyone would.
+/// How much is done for a widget.
+enum class Service {
+    /// Pixels are computed once, as anyone would.
+    Lean,
+    /// As the library promises: an object's name, and sizes by the font and the screen as they are for this widget.
+    Full
+};
+
+/// A bare dialog's window.
 class BareDialog
 {
 public:
-    /// With names, every widget that has one in the library's dialog gets one.
-    BareDialog(QWidget *parent, bool hasNames) : m_dialog(new QDialog(parent)), m_hasNames(hasNames)
+    BareDialog(QWidget *parent, Service service) : m_dialog(new QDialog(parent)), m_service(service)
     {
         name(m_dialog);
-        m_line = QFontMetrics(m_dialog->font()).height();
+        measure(m_dialog);
         m_dialog->setWindowTitle(QStringLiteral("Mixed"));
         auto *const box = new QDialogButtonBox(QDialogButtonBox::Close, m_dialog);
         box->setFixedWidth(across(9000) - 12);
@@ -46,6 +54,7 @@ public:
     void fill(int x, int y)
     {
         auto *const label = new QLabel(QStringLiteral("Label"), m_dialog);
+        measureAgain(label);
         label->move(across(x), down(y));
         label->setFixedWidth(label->sizeHint().width());
         name(label);
@@ -81,6 +90,7 @@ public:
         slider->setTickInterval(1);
         place(slider, x + 900, y + 600, 700, 130);
         auto *const display = new QLabel(m_dialog);
+        measureAgain(display);
         display->move(slider->x(), slider->y() - m_line);
         display->setFixedSize(slider->width(), m_line);
         display->setAlignment(Qt::AlignHCenter);
@@ -101,28 +111,43 @@ public:
     }
 
 private:
-    int across(int units) const { return int(units / 100.0 * m_line * 0.45 + 0.499); }
+    int across(int units) const { return int(units / 100.0 * m_line * m_ratio * 0.45 + 0.499); }
     int down(int units) const { return int(units / 100.0 * m_line + 0.499); }
 
     template <typename T>
     T *place(T *widget, int x, int y, int width, int height)
     {
+        measureAgain(widget);
         widget->move(across(x), down(y));
         widget->setFixedSize(across(width), down(height));
         widget->setFocusPolicy(Qt::StrongFocus);
         return widget;
     }
 
+    void measureAgain(const QWidget *widget)
+    {
+        if (m_service == Service::Full)
+            measure(widget);
+    }
+
+    void measure(const QWidget *widget)
+    {
+        m_line = QFontMetrics(widget->font()).height();
+        const QScreen *const screen = mainWindow()->screen();
+        m_ratio = screen->logicalDotsPerInchX() / screen->logicalDotsPerInchY();
+    }
+
     void name(QObject *object)
     {
-        if (m_hasNames)
+        if (m_service == Service::Full)
             object->setObjectName(QString::number(m_names++));
     }
 
     QDialog *m_dialog;
-    bool m_hasNames;
+    Service m_service;
     int m_names = 100000;
     int m_line;
+    double m_ratio;
 };
 
 /// Notices that a window has been drawn.
@@ -141,9 +166,9 @@ public:
 
 namespace {
 
-QDialog *createFilled(bool hasNames)
+QDialog *createFilled(Service service)
 {
-    BareDialog bare(mainWindow(), hasNames);
+    BareDialog bare(mainWindow(), service);
     for (int i = 0; i < 25; ++i)
         bare.fill(1 + i % 5 * 1700, 1 + i / 5 * 1000);
     return bare.dialog();
@@ -153,12 +178,12 @@ QDialog *createFilled(bool hasNames)
 
 QDialog *createBareDialog()
 {
-    return createFilled(false);
+    return createFilled(Service::Lean);
 }
 
-QDialog *createNamedBareDialog()
+QDialog *createFullBareDialog()
 {
-    return createFilled(true);
+    return createFilled(Service::Full);
 }
 
 void showUntilPainted(QDialog &dialog)

@@ -109,7 +109,7 @@ bool checkGrowth(Counter &counter, const Case &tested)
     for (const int size : kSizes) {
         const Comparison comparison = tested.make(size);
         counter.count(comparison.library);
-        rows.push_back({size, counter.count(comparison.library), 0});
+        rows.push_back({size, counter.count(comparison.library), 0, 0});
     }
     return isWithin(tested.name, "n^", growth(rows), kLargestCountedGrowth);
 }

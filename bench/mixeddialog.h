@@ -10,7 +10,7 @@ namespace bench {
 
 QDialog *createLibraryDialog();
 QDialog *createBareDialog();
-QDialog *createNamedBareDialog();
+QDialog *createFullBareDialog();
 void showUntilPainted(QDialog &dialog);
 
 } // namespace bench

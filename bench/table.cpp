@@ -46,7 +46,7 @@ bool isMet(const Goal &goal, const Row &row)
 {
     switch (goal.kind) {
     case Goal::Ratio:
-        return row.ratio() <= goal.limit;
+        return row.ratio <= goal.limit;
     case Goal::Difference:
         return row.library - row.bare <= goal.limit;
     case Goal::Most:
@@ -92,7 +92,7 @@ void Table::add(const Case &tested, const Row &row)
     const bool hasBare = row.bare > 0;
     std::printf("%-44s %9s %10s %10s %7s  ", tested.name.c_str(), row.size > 0 ? std::to_string(row.size).c_str() : "",
                 figure(row.library, tested.meter).c_str(), hasBare ? figure(row.bare, tested.meter).c_str() : "",
-                !hasBare ? "" : format(row.ratio() < 0.1 ? "%.5f" : "%.3f", row.ratio()).c_str());
+                !hasBare ? "" : format(row.ratio < 0.1 ? "%.5f" : "%.3f", row.ratio).c_str());
     judge(written(tested.goal, tested.meter), isMet(tested.goal, row), tested.toolkitsLimit);
 }
 
@@ -105,7 +105,7 @@ void Table::endCase()
                     bare > 0 ? format("n^%.2f", bare).c_str() : "", "");
         // Caches make even work that is strictly linear grow a little faster, and the toolkit's with it.
         const bool isNeverSlower =
-            bare > 0 && std::all_of(m_rows.begin(), m_rows.end(), [](const Row &row) { return row.ratio() <= 1; });
+            bare > 0 && std::all_of(m_rows.begin(), m_rows.end(), [](const Row &row) { return row.ratio <= 1; });
         const char *toolkitsLimit = nullptr;
         if (bare > kLargestGrowth)
             toolkitsLimit = "bare grows faster than that, too";
