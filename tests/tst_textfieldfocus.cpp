@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <QAbstractButton>
@@ -6,12 +7,15 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QTimer>
 
 using namespace Callback;
 
 /// When a field reports, and that a rejected text can't be left. Every case is played with a text field or, called with
-/// "spin", with a spin text field, in a dialog that also has another field, an option menu and its buttons.
+/// "spin", with a spin text field, in a dialog that also has another field, an option menu, a menu bar and
+/// its buttons.
 class tst_TextFieldFocus : public ZelTest
 {
     Q_OBJECT
@@ -25,6 +29,8 @@ private Q_SLOTS:
     void twoRejectingFields();
     void goneWithItsDialog();
     void callbackShowsAMessage();
+    void messageInsteadOfAMenu_data();
+    void messageInsteadOfAMenu();
     void hiddenOrDisabled();
     void popups();
     void otherWindow();
@@ -34,6 +40,10 @@ private Q_SLOTS:
 private:
     /// Opens the dialog with the field, which has the focus and the text "bad".
     void open();
+    /// Has the field's callback show a message, which is closed at once.
+    void showMessages();
+    /// Without a window manager, nobody activates the dialog when a message is gone.
+    bool isFocusBack();
     bool hasFocus() const { return QApplication::focusWidget() == m_widget; }
     bool isAllSelected() const { return m_edit->selectedText() == m_edit->text() && !m_edit->text().isEmpty(); }
 
@@ -45,6 +55,7 @@ private:
     QPointer<QWidget> m_widget;
     QPointer<QLineEdit> m_edit;
     QComboBox *m_menu = nullptr;
+    int m_shownMessages = 0;
 };
 
 void tst_TextFieldFocus::open()
@@ -57,6 +68,7 @@ void tst_TextFieldFocus::open()
                           : ZelGUITextFieldAdd(m_dialog, 100, 100, 1000, 130, reportText<Text>);
     m_other = ZelGUITextFieldAdd(m_dialog, 100, 300, 1000, 130, reportText<OtherText>);
     const int menu = ZelGUIOptionMenuAdd(m_dialog, 100, 500, 1000, 130, "A,B", reportInt<Option>);
+    ZelGUIMenuAddItem(ZelGUIMenuAdd(ZelGUIMenuBarAdd(m_dialog), "&View"), "&Axes", nullptr, report<MenuItem>);
     m_window = object<QDialog>(m_dialog);
     m_widget = object<QWidget>(field);
     m_edit = m_isSpin ? m_widget->findChild<QLineEdit *>() : object<QLineEdit>(field);
@@ -67,6 +79,28 @@ void tst_TextFieldFocus::open()
     QVERIFY(hasFocus());
     QTest::keyClicks(m_widget, "bad");
     QCOMPARE(log(), QStringList());
+}
+
+void tst_TextFieldFocus::showMessages()
+{
+    m_shownMessages = 0;
+    action(Text) = [this] {
+        QTimer closer;
+        connect(&closer, &QTimer::timeout, this, [this] {
+            if (QWidget *const message = QApplication::activeModalWidget()) {
+                ++m_shownMessages;
+                message->close();
+            }
+        });
+        closer.start(1);
+        ZelUtilDialogErrMsg("no good");
+    };
+}
+
+bool tst_TextFieldFocus::isFocusBack()
+{
+    m_window->activateWindow();
+    return QTest::qWaitFor([this] { return hasFocus(); });
 }
 
 void tst_TextFieldFocus::eachEndOfEditingOnce()
@@ -163,23 +197,8 @@ void tst_TextFieldFocus::callbackShowsAMessage()
     open();
     answer(Text) = 0;
     answer(OtherText) = 0;
-    int shownMessages = 0;
-    action(Text) = [&] {
-        QTimer closer;
-        connect(&closer, &QTimer::timeout, this, [&] {
-            if (QWidget *const message = QApplication::activeModalWidget()) {
-                ++shownMessages;
-                message->close();
-            }
-        });
-        closer.start(1);
-        ZelUtilDialogErrMsg("no good");
-    };
-    // Without a window manager, nobody activates the dialog when the message is gone.
-    const auto isBack = [this] {
-        m_window->activateWindow();
-        return QTest::qWaitFor([this] { return hasFocus(); }) && isAllSelected();
-    };
+    showMessages();
+    const auto isBack = [this] { return isFocusBack() && isAllSelected(); };
     QTest::keyClick(m_widget, Qt::Key_Return);
     QVERIFY(isBack());
     QTest::keyClick(m_widget, Qt::Key_Tab);
@@ -187,8 +206,52 @@ void tst_TextFieldFocus::callbackShowsAMessage()
     QTest::mouseClick(object<QWidget>(m_other), Qt::LeftButton);
     QVERIFY(isBack());
     QTest::qWait(10);
-    QCOMPARE(shownMessages, 3);
+    QCOMPARE(m_shownMessages, 3);
     QCOMPARE(log(), QStringList({"Text bad", "Text bad", "Text bad"}));
+}
+
+void tst_TextFieldFocus::messageInsteadOfAMenu_data()
+{
+    const Rows<bool, int> row("isByMouse", "answer");
+    row("click, rejected", true, 0);
+    row("click, accepted", true, 1);
+    row("key, rejected", false, 0);
+    row("key, accepted", false, 1);
+}
+
+// A menu takes the focus, and a message closes it while the toolkit is still opening it.
+void tst_TextFieldFocus::messageInsteadOfAMenu()
+{
+    QFETCH(bool, isByMouse);
+    QFETCH(int, answer);
+    open();
+    Callback::answer(Text) = answer;
+    auto *const menuBar = m_window->findChild<QMenuBar *>();
+    QAction *const menu = menuBar->actions().first();
+    const auto openMenu = [&] {
+        if (isByMouse)
+            QTest::mouseClick(menuBar, Qt::LeftButton, {}, menuBar->actionGeometry(menu).center());
+        else
+            QTest::keyClick(m_widget, Qt::Key_V, Qt::AltModifier);
+    };
+    showMessages();
+    openMenu();
+    QCOMPARE(m_shownMessages, 1);
+    QCOMPARE(log(), QStringList("Text bad"));
+    QVERIFY(!QApplication::activePopupWidget());
+    QVERIFY(isFocusBack());
+
+    // Without a message, the menu opens, and its item is chosen after the report.
+    action(Text) = nullptr;
+    Callback::answer(Text) = 1;
+    QTest::keyClicks(m_widget, "good");
+    log().clear();
+    openMenu();
+    QCOMPARE(QApplication::activePopupWidget(), static_cast<QWidget *>(menu->menu()));
+    QTest::keyClick(menu->menu(), Qt::Key_A);
+    QTRY_COMPARE(log().size(), 2);
+    QCOMPARE(log().last(), QStringLiteral("MenuItem"));
+    QTRY_VERIFY(!QApplication::activePopupWidget());
 }
 
 // A hidden page takes the field along, though not what the user typed; a disabled field can't be corrected.

@@ -84,6 +84,23 @@ Gesture chooseInPopup(const char *name, const Gesture &choose)
             }};
 }
 
+/// Opens a menu of the dialog that a widget is in, which takes the focus from the widget.
+Gesture menu(const char *name, const std::function<void(QMenuBar *, QWidget *)> &open)
+{
+    return {name, [open](QWidget *widget) {
+                const int id = ZelGUIMenuBarAdd(widget->window()->objectName().toInt());
+                ZelGUIMenuAddItem(ZelGUIMenuAdd(id, "&Menu"), "Item", nullptr, nullptr);
+                auto *const bar = widget->window()->findChild<QMenuBar *>(QString::number(id));
+                if (QTest::qWaitFor([bar] { return bar->isVisible(); }))
+                    open(bar, widget);
+            }};
+}
+
+void clickFirstMenu(QMenuBar *bar)
+{
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(bar->actions().first()).center());
+}
+
 /// One trigger for each gesture: adds a widget, shows and focuses it, and does as the user would.
 void addWidgetTriggers(QVector<Trigger> &all, const char *kind, Name callback, const Adder &add,
                        const QVector<Gesture> &gestures)
@@ -117,7 +134,7 @@ void addMenuTriggers(QVector<Trigger> &all, const char *kind, Name callback, con
                     auto *const subMenu = scene.widget->findChild<QMenu *>(QString::number(subMenuId));
                     if (!QTest::qWaitFor([bar] { return bar->isVisible(); }) || !ZelTest::waitUntilActive(scene.widget))
                         return;
-                    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(bar->actions().first()).center());
+                    clickFirstMenu(bar);
                     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
                     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Right);
                     if (QTest::qWaitFor([subMenu] { return subMenu->isVisible(); }))
@@ -225,8 +242,18 @@ void addTextTriggers(QVector<Trigger> &all)
         return Place(ZelTest::boxButton(field->window(), QStringLiteral("Help")), QPoint(5, 5));
     });
     const Gesture tab = key("Tab", Qt::Key_Tab);
-    addWidgetTriggers(all, "text field", Text, addField, {kReturn, tab, otherClicked});
-    addWidgetTriggers(all, "spin text field", Text, addSpin, {kReturn, tab, otherClicked});
+    const Gesture menuClicked = menu("menu clicked", [](QMenuBar *bar, QWidget *) { clickFirstMenu(bar); });
+    const Gesture menuKey =
+        menu("menu's key", [](QMenuBar *, QWidget *field) { QTest::keyClick(field, Qt::Key_M, Qt::AltModifier); });
+    const Gesture toggleKey = {"toggle's key", [](QWidget *field) {
+                                   const int dialog = field->window()->objectName().toInt();
+                                   const int id = ZelGUIToggleAdd(dialog, 1, 300, 1000, 100, "&Toggle", nullptr);
+                                   field->window()->findChild<QWidget *>(QString::number(id))->show();
+                                   QTest::keyClick(field, Qt::Key_T, Qt::AltModifier);
+                               }};
+    const QVector<Gesture> ends = {kReturn, tab, otherClicked, menuClicked, menuKey, toggleKey};
+    addWidgetTriggers(all, "text field", Text, addField, ends);
+    addWidgetTriggers(all, "spin text field", Text, addSpin, ends);
     addWidgetTriggers(all, "spin up", Up, addSpin, {kUp, clickArrow(QStyle::SC_SpinBoxUp), wheel("wheel", 120)});
     addWidgetTriggers(all, "spin down", Down, addSpin,
                       {kDown, clickArrow(QStyle::SC_SpinBoxDown), wheel("wheel", -120)});
