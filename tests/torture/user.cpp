@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QTest>
 #include <QWheelEvent>
@@ -152,6 +153,9 @@ bool User::dismiss()
     }
     if (m_pressed && mainWindow())
         sendMouse(window ? *window : *mainWindow(), QEvent::MouseButtonRelease, Qt::MouseButton(int(m_pressed)));
+    else if (window && qobject_cast<QMenuBar *>(window->focusWidget()))
+        // It keeps Escape to itself, and the focus when its window has not been the active one for a moment.
+        window->close();
     else if (window)
         clickKey(*window->windowHandle(), Qt::Key_Escape, Qt::NoModifier, QString());
     return window;
