@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "support/rows.h"
 #include "support/zeltest.h"
 
 #include <zvsdkbase/hostcontrol.h>
@@ -136,6 +137,7 @@ private Q_SLOTS:
     void userSelectsOne();
     void scrolling();
     void capacity();
+    void smallerThanScrollBars_data();
     void smallerThanScrollBars();
     void handedOutSelection();
 };
@@ -501,10 +503,21 @@ void tst_List::capacity()
     QCOMPARE(ZelGUIListGetCapacity(flat), object<QListWidget>(flat)->height());
 }
 
+void tst_List::smallerThanScrollBars_data()
+{
+    const Rows<int, QString> row("size", "styleSheet");
+    row("smaller than any", 10, "");
+    row("smaller than those of a style sheet", 500, "QScrollBar:vertical { width: 500px }");
+}
+
 /// The toolkit would show and hide the bars for ever.
 void tst_List::smallerThanScrollBars()
 {
-    const int id = ZelGUIListAdd(launchModeless(), 100, 100, 10, 10, 1, reportList<List>);
+    QFETCH(int, size);
+    QFETCH(QString, styleSheet);
+    const int dialog = launchModeless();
+    object<QDialog>(dialog)->setStyleSheet(styleSheet);
+    const int id = ZelGUIListAdd(dialog, 100, 100, size, size, 1, reportList<List>);
     for (int i = 0; i < 20; ++i)
         ZelGUIListAppendItem(id, "A rather long item");
     const auto *const list = shown<QListWidget>(id);

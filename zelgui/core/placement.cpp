@@ -74,14 +74,13 @@ void placeWidget(QWidget *widget, int x, int y, int width, int height)
         widget->setFocusPolicy(Qt::StrongFocus);
 }
 
-void placeScrollArea(QAbstractScrollArea *area, int x, int y, int width, int height)
+void dropBarsWithoutRoom(QAbstractScrollArea &area)
 {
-    placeWidget(area, x, y, width, height);
-    const int bars = area->verticalScrollBar()->sizeHint().width() + area->horizontalScrollBar()->sizeHint().height();
-    const QSize room = area->maximumSize() - QSize(bars, bars);
-    if (room.width() <= 2 * area->frameWidth() || room.height() <= 2 * area->frameWidth()) {
-        area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const int bars = area.verticalScrollBar()->sizeHint().width() + area.horizontalScrollBar()->sizeHint().height();
+    const QSize room = area.maximumSize() - QSize(bars, bars);
+    if (room.width() <= 2 * area.frameWidth() || room.height() <= 2 * area.frameWidth()) {
+        area.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        area.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     }
 }
 

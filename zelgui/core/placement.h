@@ -13,9 +13,10 @@ namespace orvane::zelgui {
 /// the keyboard focus afterwards, by Tab and by click.
 void placeWidget(QWidget *widget, int x, int y, int width, int height);
 
-/// The same for a widget with scroll bars. If it is too small for them they are off: the toolkit would show and hide
-/// them for ever.
-void placeScrollArea(QAbstractScrollArea *area, int x, int y, int width, int height);
+/// Turns the scroll bars off where a widget's fixed size leaves no room for them: the toolkit would show and hide them
+/// for ever. For the event QEvent::Polish, which comes once, before the widget is first shown; only then are all style
+/// sheets known, and the bars have to be polished anyway before they know their size.
+void dropBarsWithoutRoom(QAbstractScrollArea &area);
 
 } // namespace orvane::zelgui
 

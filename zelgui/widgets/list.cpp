@@ -10,6 +10,8 @@
 
 #include <zvtoolbox/stringlist.h>
 
+#include <QEvent>
+
 #include <algorithm>
 #include <cstring>
 #include <numeric>
@@ -155,7 +157,7 @@ ZelGUIList::ZelGUIList(QWidget *parent, int x, int y, int width, int height, boo
     : QListWidget(parent), m_callback(callback)
 {
     setSelectionMode(isMultiSelection ? ExtendedSelection : SingleSelection);
-    placeScrollArea(this, x, y, width, height);
+    placeWidget(this, x, y, width, height);
     connect(this, &QListWidget::itemSelectionChanged, this, &ZelGUIList::onItemSelectedChanged);
 }
 
@@ -214,6 +216,8 @@ void ZelGUIList::selectAll()
 bool ZelGUIList::event(QEvent *event)
 {
     settleSelection();
+    if (event->type() == QEvent::Polish)
+        dropBarsWithoutRoom(*this);
     return QListWidget::event(event);
 }
 

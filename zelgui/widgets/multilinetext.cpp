@@ -6,6 +6,7 @@
 #include "core/placement.h"
 #include "core/text.h"
 
+#include <QEvent>
 #include <QTextDocument>
 
 namespace orvane::zelgui {
@@ -33,9 +34,16 @@ void useFixedPitchFont(QWidget &widget)
 ZelGUIText::ZelGUIText(QWidget *parent, int x, int y, int width, int height, bool readOnly, ZelGUITextCallback callback)
     : QPlainTextEdit(parent), m_callback(callback)
 {
-    placeScrollArea(this, x, y, width, height);
+    placeWidget(this, x, y, width, height);
     connect(this, &QPlainTextEdit::textChanged, this, &ZelGUIText::onTextChanged);
     setReadOnly(readOnly);
+}
+
+bool ZelGUIText::event(QEvent *event)
+{
+    if (event->type() == QEvent::Polish)
+        dropBarsWithoutRoom(*this);
+    return QPlainTextEdit::event(event);
 }
 
 void ZelGUIText::onTextChanged()

@@ -17,6 +17,9 @@ public:
     /// Position and size are in font units.
     ZelGUIText(QWidget *parent, int x, int y, int width, int height, bool readOnly, ZelGUITextCallback callback);
 
+protected:
+    bool event(QEvent *event) override;
+
 private Q_SLOTS:
     void onTextChanged();
 
