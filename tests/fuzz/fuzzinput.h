@@ -3,10 +3,8 @@
 #define TESTS_FUZZ_FUZZINPUT_H
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <string>
 
@@ -23,11 +21,10 @@ public:
     template <typename Number>
     Number raw()
     {
-        std::array<std::uint8_t, sizeof(Number)> bytes = {};
-        for (std::uint8_t &one : bytes)
-            one = byte();
-        Number number;
-        std::memcpy(&number, bytes.data(), sizeof(number));
+        Number number{};
+        const std::size_t size = std::min(sizeof(Number), static_cast<std::size_t>(m_end - m_at));
+        std::copy_n(m_at, size, reinterpret_cast<std::uint8_t *>(&number));
+        m_at += size;
         return number;
     }
 
