@@ -118,9 +118,7 @@ std::vector<Case> dialogCases()
         return Side{[life] { life->end(); }, [life] { life->dialog.reset(life->create()); }};
     };
     return {
-        stage("dialog of 200 widgets: create", 1.05, create, createBareDialog),
-        // The same, if bare code does for each widget what the library promises: names it, asks for its font and the
-        // screen.
+        stage("dialog of 200 widgets: create", 1.05, create, createBareDialog, kPromiseLimit),
         stage("dialog of 200 widgets: create, as promised", 1.05, create, createFullBareDialog),
         stage("dialog of 200 widgets: show until painted", 1.02,
               [](const std::shared_ptr<Life> &life) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "comparison.h"
+#include "mixeddialog.h"
 
 #include <cstdlib>
 #include <stdexcept>
@@ -27,21 +28,23 @@ void runProgram(const char *path)
     lastPeak() = std::size_t(usage.ru_maxrss) * 1024;
 }
 
-Case start(const char *name, Goal goal, Meter meter)
+Case start(const char *name, const char *bareProgram, Goal goal, Meter meter, const char *toolkitsLimit = nullptr)
 {
-    const auto make = [](int) {
+    const auto make = [bareProgram](int) {
         return Comparison{{nullptr, [] { runProgram(BENCH_START_LIBRARY); }},
-                          {nullptr, [] { runProgram(BENCH_START_BARE); }}};
+                          {nullptr, [bareProgram] { runProgram(bareProgram); }}};
     };
-    return {name, goal, {0}, 1, make, meter};
+    return {name, goal, {0}, 1, make, meter, toolkitsLimit};
 }
 
 } // namespace
 
 std::vector<Case> startCases()
 {
-    return {start("start of a process until a dialog is painted", {Goal::Ratio, 1.02}, Meter::Time),
-            start("memory of that process", {Goal::Difference, 1 << 20}, Meter::Peak)};
+    const Goal goal{Goal::Ratio, 1.02};
+    return {start("start of a process until a dialog is painted", BENCH_START_BARE, goal, Meter::Time, kPromiseLimit),
+            start("start of a process, as promised", BENCH_START_FULL, goal, Meter::Time),
+            start("memory of that process", BENCH_START_BARE, {Goal::Difference, 1 << 20}, Meter::Peak)};
 }
 
 } // namespace bench
