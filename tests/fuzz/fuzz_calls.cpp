@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include <cstdio>
+#include <cstring>
 
 namespace {
 
