@@ -241,7 +241,7 @@ void addTextTriggers(QVector<Trigger> &all)
     const Gesture otherClicked = clickAt("other clicked", [](QWidget *field) {
         return Place(ZelTest::boxButton(field->window(), QStringLiteral("Help")), QPoint(5, 5));
     });
-    const Gesture tab = key("Tab", Qt::Key_Tab);
+    const Gesture tabKey = key("Tab", Qt::Key_Tab);
     const Gesture menuClicked = menu("menu clicked", [](QMenuBar *bar, QWidget *) { clickFirstMenu(bar); });
     const Gesture menuKey =
         menu("menu's key", [](QMenuBar *, QWidget *field) { QTest::keyClick(field, Qt::Key_M, Qt::AltModifier); });
@@ -251,8 +251,21 @@ void addTextTriggers(QVector<Trigger> &all)
                                    field->window()->findChild<QWidget *>(QString::number(id))->show();
                                    QTest::keyClick(field, Qt::Key_T, Qt::AltModifier);
                                }};
-    const QVector<Gesture> ends = {kReturn, tab, otherClicked, menuClicked, menuKey, toggleKey};
+    const QVector<Gesture> ends = {kReturn, tabKey, otherClicked, menuClicked, menuKey, toggleKey};
     addWidgetTriggers(all, "text field", Text, addField, ends);
+    addWidgetTriggers(all, "text field on a page", Text,
+                      [=](int dialog) {
+                          const int tab = ZelGUITabAdd(dialog, 100, 300, 2000, 500, nullptr, nullptr);
+                          const int field = addField(ZelGUITabAddPage(tab, "One"));
+                          ZelGUITabAddPage(tab, "Two");
+                          return field;
+                      },
+                      {{"page left", [](QWidget *field) {
+                            auto *const tab = field->window()->findChild<QTabWidget *>();
+                            tab->show();
+                            field->setFocus();
+                            QTest::mouseClick(tab->tabBar(), Qt::LeftButton, {}, tab->tabBar()->tabRect(1).center());
+                        }}});
     addWidgetTriggers(all, "spin text field", Text, addSpin, ends);
     addWidgetTriggers(all, "spin up", Up, addSpin, {kUp, clickArrow(QStyle::SC_SpinBoxUp), wheel("wheel", 120)});
     addWidgetTriggers(all, "spin down", Down, addSpin,
