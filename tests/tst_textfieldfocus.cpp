@@ -31,6 +31,10 @@ private Q_SLOTS:
     void callbackShowsAMessage();
     void messageInsteadOfAMenu_data();
     void messageInsteadOfAMenu();
+    void rejectedAndMenuLeft_data();
+    void rejectedAndMenuLeft();
+    void reportBeforeAMenuItem_data();
+    void reportBeforeAMenuItem();
     void hiddenOrDisabled();
     void popups();
     void otherWindow();
@@ -44,12 +48,14 @@ private:
     void showMessages();
     /// Without a window manager, nobody activates the dialog when a message is gone.
     bool isFocusBack();
+    void openMenu(const QByteArray &opener);
     bool hasFocus() const { return QApplication::focusWidget() == m_widget; }
     bool isAllSelected() const { return m_edit->selectedText() == m_edit->text() && !m_edit->text().isEmpty(); }
 
     bool m_isSpin;
     int m_dialog = -2;
     int m_other = -2;
+    int m_otherSpin = -2;
     QDialog *m_window = nullptr;
     /// What has the focus when the field has it, and where its text is.
     QPointer<QWidget> m_widget;
@@ -67,6 +73,7 @@ void tst_TextFieldFocus::open()
                           ? ZelGUISpinTextFieldAdd(m_dialog, 100, 100, 1000, 130, reportText<Text>, nullptr, nullptr)
                           : ZelGUITextFieldAdd(m_dialog, 100, 100, 1000, 130, reportText<Text>);
     m_other = ZelGUITextFieldAdd(m_dialog, 100, 300, 1000, 130, reportText<OtherText>);
+    m_otherSpin = ZelGUISpinTextFieldAdd(m_dialog, 1500, 300, 1000, 130, reportText<OtherText>, nullptr, nullptr);
     const int menu = ZelGUIOptionMenuAdd(m_dialog, 100, 500, 1000, 130, "A,B", reportInt<Option>);
     ZelGUIMenuAddItem(ZelGUIMenuAdd(ZelGUIMenuBarAdd(m_dialog), "&View"), "&Axes", nullptr, report<MenuItem>);
     m_window = object<QDialog>(m_dialog);
@@ -212,46 +219,88 @@ void tst_TextFieldFocus::callbackShowsAMessage()
 
 void tst_TextFieldFocus::messageInsteadOfAMenu_data()
 {
-    const Rows<bool, int> row("isByMouse", "answer");
-    row("click, rejected", true, 0);
-    row("click, accepted", true, 1);
-    row("key, rejected", false, 0);
-    row("key, accepted", false, 1);
+    const Rows<QByteArray, int> row("opener", "answer");
+    for (const char *const opener : {"click", "key", "field's own menu", "spin field's own menu"}) {
+        row(QByteArray(opener) + ", rejected", opener, 0);
+        row(QByteArray(opener) + ", accepted", opener, 1);
+    }
 }
 
-// A menu takes the focus, and a message closes it while the toolkit is still opening it.
+void tst_TextFieldFocus::openMenu(const QByteArray &opener)
+{
+    const auto askForMenuOf = [](QWidget *widget) {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(2, 2), widget->mapToGlobal(QPoint(2, 2)));
+        QApplication::sendEvent(widget, &event);
+    };
+    auto *const bar = m_window->findChild<QMenuBar *>();
+    if (opener == "click")
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(bar->actions().first()).center());
+    else if (opener == "key")
+        QTest::keyClick(m_widget, Qt::Key_V, Qt::AltModifier);
+    else
+        askForMenuOf(object<QWidget>(opener.startsWith("spin") ? m_otherSpin : m_other));
+}
+
+// A menu takes the focus. The toolkit does not survive that a message closes it while it opens, or waits for ever.
 void tst_TextFieldFocus::messageInsteadOfAMenu()
 {
-    QFETCH(bool, isByMouse);
+    QFETCH(QByteArray, opener);
     QFETCH(int, answer);
     open();
     Callback::answer(Text) = answer;
-    auto *const menuBar = m_window->findChild<QMenuBar *>();
-    QAction *const menu = menuBar->actions().first();
-    const auto openMenu = [&] {
-        if (isByMouse)
-            QTest::mouseClick(menuBar, Qt::LeftButton, {}, menuBar->actionGeometry(menu).center());
-        else
-            QTest::keyClick(m_widget, Qt::Key_V, Qt::AltModifier);
-    };
     showMessages();
-    openMenu();
-    QCOMPARE(m_shownMessages, 1);
-    QCOMPARE(log(), QStringList("Text bad"));
+    openMenu(opener);
+    QTRY_COMPARE(m_shownMessages, 1);
+    QTRY_COMPARE(log(), QStringList("Text bad"));
     QVERIFY(!QApplication::activePopupWidget());
     QVERIFY(isFocusBack());
+}
 
-    // Without a message, the menu opens, and its item is chosen after the report.
-    action(Text) = nullptr;
-    Callback::answer(Text) = 1;
-    QTest::keyClicks(m_widget, "good");
-    log().clear();
-    openMenu();
-    QCOMPARE(QApplication::activePopupWidget(), static_cast<QWidget *>(menu->menu()));
-    QTest::keyClick(menu->menu(), Qt::Key_A);
-    QTRY_COMPARE(log().size(), 2);
-    QCOMPARE(log().last(), QStringLiteral("MenuItem"));
+void tst_TextFieldFocus::rejectedAndMenuLeft_data()
+{
+    const Rows<QByteArray> row("opener");
+    row("click", "click");
+    row("key", "key");
+}
+
+// Opening a menu and leaving it is no way around a rejection.
+void tst_TextFieldFocus::rejectedAndMenuLeft()
+{
+    QFETCH(QByteArray, opener);
+    open();
+    answer(Text) = 0;
+    openMenu(opener);
+    QTRY_COMPARE(log(), QStringList("Text bad"));
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     QTRY_VERIFY(!QApplication::activePopupWidget());
+    QVERIFY(activate(m_window));
+    log().clear();
+    QTest::mouseClick(object<QWidget>(m_other), Qt::LeftButton);
+    QCOMPARE(log(), QStringList("Text bad"));
+    QVERIFY(hasFocus());
+}
+
+void tst_TextFieldFocus::reportBeforeAMenuItem_data()
+{
+    const Rows<bool, QStringList> row("hasMessage", "expected");
+    row("menu still open", false, {"Text bad", "MenuItem"});
+    row("menu closed by a message", true, {"Text bad"});
+}
+
+// Keys as fast as can be, before any pass of the event loop.
+void tst_TextFieldFocus::reportBeforeAMenuItem()
+{
+    QFETCH(bool, hasMessage);
+    open();
+    if (hasMessage)
+        showMessages();
+    auto *const menu = m_window->findChild<QMenuBar *>()->actions().first()->menu();
+    QTest::keyPress(m_widget, Qt::Key_V, Qt::AltModifier);
+    QCOMPARE(QApplication::activePopupWidget(), static_cast<QWidget *>(menu));
+    QTest::keyPress(menu, Qt::Key_A);
+    QTEST(log(), "expected");
+    QTRY_VERIFY(!QApplication::activePopupWidget());
+    QVERIFY(isFocusBack());
 }
 
 // A hidden page takes the field along, though not what the user typed; a disabled field can't be corrected.
@@ -306,7 +355,7 @@ void tst_TextFieldFocus::popups()
     // A list that opens without having had the focus before takes it twice.
     m_menu->showPopup();
     QTRY_VERIFY(QApplication::activePopupWidget());
-    QCOMPARE(log(), QStringList({"Text bad"}));
+    QTRY_COMPARE(log(), QStringList({"Text bad"}));
     closePopup();
 
     // One click on a list takes it once for the list itself and once for what opens; that is one rejection.

@@ -2,11 +2,9 @@
 #include "core/entrypoint.h"
 #include "dialogs/dialog.h"
 
-#include <QApplication>
-#include <QFocusEvent>
+#include <QCoreApplication>
 #include <QLayout>
 #include <QMenuBar>
-#include <QPointer>
 #include <QResizeEvent>
 #include <QVBoxLayout>
 
@@ -68,53 +66,9 @@ void moveContentDown(QDialog &dialog, int pixels)
         layOutAnew(widget);
 }
 
-/// Takes the focus before a key opens a menu. The toolkit takes it while it opens the menu, and does not survive that
-/// the menu is closed then, as it is by a message from the callback of the field that has had the focus. Where a
-/// callback leads the user elsewhere, be it there and back again, the key does nothing more.
-class MenuKeyFilter : public QObject
-{
-public:
-    explicit MenuKeyFilter(QMenuBar *bar) : QObject(bar) { bar->installEventFilter(this); }
-
-    bool eventFilter(QObject *object, QEvent *event) override
-    {
-        if (event->type() == QEvent::FocusIn)
-            m_isFocusTaken = false;
-        QWidget *const focused = QApplication::focusWidget();
-        if (event->type() != QEvent::Shortcut || object != parent() || !focused || focused == object)
-            return false;
-        openMenu(event, focused);
-        return true;
-    }
-
-private:
-    void openMenu(QEvent *key, QWidget *focused)
-    {
-        const QPointer<QWidget> bar(static_cast<QMenuBar *>(parent()));
-        const QPointer<QWidget> loser(focused);
-        const auto mayGoOn = [&] { return bar && loser && m_isFocusTaken && QApplication::focusWidget() == loser; };
-        m_isFocusTaken = true;
-        loser->installEventFilter(this);
-        // As the toolkit does it: to the application, the widget remains what has the focus.
-        QFocusEvent loss(QEvent::FocusOut, Qt::PopupFocusReason);
-        QCoreApplication::sendEvent(loser, &loss);
-        if (mayGoOn() && bar->isVisible())
-            static_cast<QObject *>(bar.data())->event(key);
-        if (bar && loser)
-            loser->removeEventFilter(this);
-        if (mayGoOn() && !QApplication::activePopupWidget()) {
-            QFocusEvent gain(QEvent::FocusIn, Qt::PopupFocusReason);
-            QCoreApplication::sendEvent(loser, &gain);
-        }
-    }
-
-    bool m_isFocusTaken = false;
-};
-
 QMenuBar *addMenuBar(QDialog &dialog)
 {
     auto *const bar = new QMenuBar(&dialog);
-    new MenuKeyFilter(bar);
     // Not the height that the bar will have, but that of any widget not laid out yet, 30 pixels. Add-ons count on it.
     const int height = bar->height();
     // Some desktops would take the menus out of the dialog, and leave a gap.

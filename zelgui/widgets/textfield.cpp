@@ -12,9 +12,12 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFocusEvent>
+#include <QMenuBar>
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -79,6 +82,60 @@ public:
 private:
     QPointer<QAbstractButton> m_button;
     Qt::MouseButtons m_pressed;
+};
+
+/// Reports, when a popup is open, that it has taken the focus. The toolkit does not survive that a popup is closed
+/// while it opens, as it is by a message from a callback; or it waits for the popup for ever. A key or a press of the
+/// mouse that comes first waits for the report, and is lost if it was for a popup that is gone then.
+class ReportOncePopupIsOpen : public QObject
+{
+public:
+    ReportOncePopupIsOpen(QObject *parent, std::function<void()> report) : QObject(parent), m_report(std::move(report))
+    {
+        qApp->installEventFilter(this);
+        const auto act = [this] { reportOnce(); };
+        QMetaObject::invokeMethod(this, act, Qt::QueuedConnection);
+    }
+    bool eventFilter(QObject *receiver, QEvent *event) override
+    {
+        if (!isInput(event->type()))
+            return false;
+        const bool canBeLost = event->type() != QEvent::Close;
+        if (m_isInputLost)
+            return canBeLost;
+        const QPointer<ReportOncePopupIsOpen> guard(this);
+        const QPointer<QObject> receiverGuard(receiver);
+        const QPointer<QWidget> popup = QApplication::activePopupWidget();
+        const bool isForPopup = canBeLost && popup;
+        reportOnce();
+        const bool isLost = isForPopup && (!popup || popup != QApplication::activePopupWidget());
+        if (guard)
+            m_isInputLost = isLost;
+        return isLost || !receiverGuard;
+    }
+
+private:
+    static bool isInput(QEvent::Type type)
+    {
+        static constexpr QEvent::Type kTypes[] = {
+            QEvent::ShortcutOverride,    QEvent::KeyPress, QEvent::KeyRelease,  QEvent::MouseButtonPress,
+            QEvent::MouseButtonRelease,  QEvent::Wheel,    QEvent::ContextMenu, QEvent::Close,
+            QEvent::MouseButtonDblClick,
+        };
+        return std::find(std::begin(kTypes), std::end(kTypes), type) != std::end(kTypes);
+    }
+    void reportOnce()
+    {
+        if (!m_report)
+            return;
+        deleteLater();
+        // Anything may happen in the callback, even to this object.
+        std::exchange(m_report, nullptr)();
+    }
+
+    std::function<void()> m_report;
+    /// Until the next pass of the event loop.
+    bool m_isInputLost = false;
 };
 
 /// Keeps popup menus that are about to be deleted while a field reports that its window is not the active one any more.
@@ -211,11 +268,24 @@ void ZelGUITextField::focusOutEvent(QFocusEvent *event)
     QLineEdit::focusOutEvent(event);
     if (!isToReport)
         return;
+    if (reason == Qt::PopupFocusReason) {
+        new ReportOncePopupIsOpen(this, [this] { reportToOpenPopup(); });
+        return;
+    }
     const InterruptedClick click(reason);
     std::optional<EndedPopups> endedPopups;
     if (reason == Qt::ActiveWindowFocusReason)
         endedPopups.emplace();
     editingFinished();
+}
+
+void ZelGUITextField::reportToOpenPopup()
+{
+    const QPointer<ZelGUITextField> guard(this);
+    editingFinished();
+    // A menu bar whose menu was opened by a key and closed by a message would keep the focus, and Escape.
+    if (guard && !QApplication::activePopupWidget() && qobject_cast<QMenuBar *>(window()->focusWidget()))
+        setFocus(Qt::MenuBarFocusReason);
 }
 
 void ZelGUITextField::keyPressEvent(QKeyEvent *event)

@@ -41,6 +41,7 @@ private:
     void watchEditing();
     void watchCorrection();
     bool isLossToReport(const QFocusEvent &event) const;
+    void reportToOpenPopup();
 
     ZelGUITextCallback m_callback;
     /// Whether the focus came since the last loss: opening a combo box takes it from the field twice.
