@@ -14,8 +14,8 @@ namespace orvane::zelgui {
 void placeWidget(QWidget *widget, int x, int y, int width, int height);
 
 /// Turns the scroll bars off where a widget's fixed size leaves no room for them: the toolkit would show and hide them
-/// for ever. For the event QEvent::Polish, which comes once, before the widget is first shown; only then are all style
-/// sheets known, and the bars have to be polished anyway before they know their size.
+/// for ever. For the events QEvent::Polish, before the widget is first shown, and QEvent::StyleChange, when the widget
+/// has handled them: not before does it know what style sheets make of it and its bars.
 void dropBarsWithoutRoom(QAbstractScrollArea &area);
 
 } // namespace orvane::zelgui

@@ -216,9 +216,10 @@ void ZelGUIList::selectAll()
 bool ZelGUIList::event(QEvent *event)
 {
     settleSelection();
-    if (event->type() == QEvent::Polish)
+    const bool isHandled = QListWidget::event(event);
+    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
         dropBarsWithoutRoom(*this);
-    return QListWidget::event(event);
+    return isHandled;
 }
 
 bool ZelGUIList::viewportEvent(QEvent *event)

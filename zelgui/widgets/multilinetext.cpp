@@ -41,9 +41,10 @@ ZelGUIText::ZelGUIText(QWidget *parent, int x, int y, int width, int height, boo
 
 bool ZelGUIText::event(QEvent *event)
 {
-    if (event->type() == QEvent::Polish)
+    const bool isHandled = QPlainTextEdit::event(event);
+    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
         dropBarsWithoutRoom(*this);
-    return QPlainTextEdit::event(event);
+    return isHandled;
 }
 
 void ZelGUIText::onTextChanged()
