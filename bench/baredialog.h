@@ -55,16 +55,15 @@ public:
         auto *const field = place(new typename Service::Field(m_dialog), x + 600, y, 1000, 130);
         name(field);
         QObject::connect(field, &QLineEdit::returnPressed, m_dialog, &ignore);
-        QObject::connect(field, &QLineEdit::textChanged, m_dialog, &ignore);
 
         auto *const toggle = new typename Service::Toggle(m_dialog);
-        toggle->setText(text(QStringLiteral("Toggle"), "Toggle"));
+        toggle->setText(trimmed(text(QStringLiteral("Toggle"), "Toggle")));
         place(toggle, x, y + 150, 1000, 130);
         name(toggle);
         QObject::connect(toggle, &QCheckBox::toggled, m_dialog, &ignore);
 
         auto *const button = new typename Service::Button(m_dialog);
-        button->setText(text(QStringLiteral("Push"), "Push"));
+        button->setText(trimmed(text(QStringLiteral("Push"), "Push")));
         place(button, x + 1000, y + 150, 600, 143);
         button->setAutoDefault(false);
         name(button);
@@ -123,8 +122,10 @@ private:
 
     static QString text(const QString &text, const char *characters)
     {
-        return Service::isFull ? QString::fromLatin1(characters).trimmed() : text;
+        return Service::isFull ? QString::fromLatin1(characters) : text;
     }
+
+    static QString trimmed(const QString &text) { return Service::isFull ? text.trimmed() : text; }
 
     static QStringList items()
     {
@@ -132,7 +133,7 @@ private:
             return {QStringLiteral("first"), QStringLiteral("second"), QStringLiteral("third")};
         QStringList items = QString::fromLatin1("first,second,third").split(QLatin1Char(','));
         for (QString &item : items)
-            item = item.trimmed();
+            item = trimmed(item);
         return items;
     }
 

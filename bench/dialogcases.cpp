@@ -43,8 +43,7 @@ struct Life
 
 using Stage = std::function<Side(const std::shared_ptr<Life> &)>;
 
-Case stage(const char *name, double limit, const Stage &side, QDialog *(*createBare)() = createBareDialog,
-           const char *toolkitsLimit = nullptr)
+Case stage(const char *name, double limit, const Stage &side, QDialog *(*createBare)() = createBareDialog)
 {
     const auto make = [side, createBare](int) {
         mainWindow();
@@ -52,7 +51,7 @@ Case stage(const char *name, double limit, const Stage &side, QDialog *(*createB
         const auto bare = std::make_shared<Life>(Life{nullptr, createBare});
         return Comparison{side(library), side(bare)};
     };
-    return {name, {Goal::Ratio, limit}, {0}, 1, make, Meter::Time, toolkitsLimit};
+    return {name, {Goal::Ratio, limit}, {0}, 1, make};
 }
 
 constexpr int kWidgets = 1000;
@@ -118,7 +117,7 @@ std::vector<Case> dialogCases()
         return Side{[life] { life->end(); }, [life] { life->dialog.reset(life->create()); }};
     };
     return {
-        stage("dialog of 200 widgets: create", 1.05, create, createBareDialog, kPromiseLimit),
+        stage("dialog of 200 widgets: create", 1.05, create),
         stage("dialog of 200 widgets: create, as promised", 1.05, create, createFullBareDialog),
         stage("dialog of 200 widgets: show until painted", 1.02,
               [](const std::shared_ptr<Life> &life) {

@@ -8,9 +8,6 @@ class QDialog;
 /// texts, places and connections, so that both look the same.
 namespace bench {
 
-/// What bare code that does as much for each widget as the library promises spends its time on.
-constexpr const char *kPromiseLimit = "names, classes, fonts and texts; see \"as promised\"";
-
 QDialog *createLibraryDialog();
 QDialog *createBareDialog();
 /// The same, if bare code does for each widget what the library promises.

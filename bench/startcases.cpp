@@ -28,13 +28,13 @@ void runProgram(const char *path)
     lastPeak() = std::size_t(usage.ru_maxrss) * 1024;
 }
 
-Case start(const char *name, const char *bareProgram, Goal goal, Meter meter, const char *toolkitsLimit = nullptr)
+Case start(const char *name, const char *bareProgram, Goal goal, Meter meter)
 {
     const auto make = [bareProgram](int) {
         return Comparison{{nullptr, [] { runProgram(BENCH_START_LIBRARY); }},
                           {nullptr, [bareProgram] { runProgram(bareProgram); }}};
     };
-    return {name, goal, {0}, 1, make, meter, toolkitsLimit};
+    return {name, goal, {0}, 1, make, meter};
 }
 
 } // namespace
@@ -42,7 +42,7 @@ Case start(const char *name, const char *bareProgram, Goal goal, Meter meter, co
 std::vector<Case> startCases()
 {
     const Goal goal{Goal::Ratio, 1.02};
-    return {start("start of a process until a dialog is painted", BENCH_START_BARE, goal, Meter::Time, kPromiseLimit),
+    return {start("start of a process until a dialog is painted", BENCH_START_BARE, goal, Meter::Time),
             start("start of a process, as promised", BENCH_START_FULL, goal, Meter::Time),
             start("memory of that process", BENCH_START_BARE, {Goal::Difference, 1 << 20}, Meter::Peak)};
 }
