@@ -45,6 +45,7 @@ class tst_HugeWidget : public ZelTest
 private Q_SLOTS:
     void isPaintedPlain_data();
     void isPaintedPlain();
+    void menuAroundAFarWidget();
 };
 
 using Add = int (*)(int dialog, int size);
@@ -82,6 +83,16 @@ void tst_HugeWidget::isPaintedPlain()
     widget->grab(QRect(0, 0, 1, 1));
     QVERIFY(style.all > 0);
     widget->setStyle(nullptr);
+}
+
+void tst_HugeWidget::menuAroundAFarWidget()
+{
+    const int menu = ZelGUIMenuAdd(ZelGUIMenuBarAdd(createModal()), "Menu");
+    QVERIFY(ZelGUIButtonAdd(menu, 10000000, 10000000, 10000000, 10000000, "Far", nullptr) > 0);
+    ZelGUISetVisibility(menu, 1);
+    const QSize size = object<QWidget>(menu)->size();
+    QVERIFY2(qint64{size.width()} * size.height() <= qint64{8192} * 8192, qPrintable(QString::number(size.height())));
+    ZelGUISetVisibility(menu, 0);
 }
 
 ZELTEST_MAIN(tst_HugeWidget)

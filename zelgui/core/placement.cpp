@@ -74,6 +74,11 @@ void placeWidget(QWidget *widget, int x, int y, int width, int height)
         widget->setFocusPolicy(Qt::StrongFocus);
 }
 
+void limitWindow(QWidget &window)
+{
+    window.setMaximumSize(static_cast<int>(kLargestDialogPixels), static_cast<int>(kLargestDialogPixels));
+}
+
 void dropBarsWithoutRoom(QAbstractScrollArea &area)
 {
     const int bars = area.verticalScrollBar()->sizeHint().width() + area.horizontalScrollBar()->sizeHint().height();

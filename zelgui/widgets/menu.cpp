@@ -3,6 +3,7 @@
 
 #include "core/callback.h"
 #include "core/entrypoint.h"
+#include "core/placement.h"
 #include "core/text.h"
 
 #include <QMenu>
@@ -75,7 +76,11 @@ int ZelGUIMenuAdd(int parentId, const char *label)
 {
     return withWidget<QWidget>(parentId, kInvalidWidgetId, [label](QWidget &parent) {
         QMenu *const menu = addMenu(parent, fromLatin1(label));
-        return menu ? ZelGUIWidgetRepository::instance()->addWidget(menu) : kInvalidWidgetId;
+        if (!menu)
+            return kInvalidWidgetId;
+        // An empty menu that is made visible takes the size of the widgets that an add-on has put into it.
+        limitWindow(*menu);
+        return ZelGUIWidgetRepository::instance()->addWidget(menu);
     });
 }
 
