@@ -505,9 +505,10 @@ void tst_List::capacity()
 
 void tst_List::smallerThanScrollBars_data()
 {
-    const Rows<int, QString> row("size", "styleSheet");
-    row("smaller than any", 10, "");
-    row("smaller than those of a style sheet", 500, "QScrollBar:vertical { width: 500px }");
+    const Rows<int, QString, QString> row("size", "styleSheet", "styleWithRoom");
+    row("smaller than any", 10, "", "");
+    row("smaller than those of a style sheet", 500, "QScrollBar:vertical { width: 500px }",
+        "QScrollBar:vertical { width: 5px }");
 }
 
 /// The toolkit would show and hide the bars for ever.
@@ -515,6 +516,7 @@ void tst_List::smallerThanScrollBars()
 {
     QFETCH(int, size);
     QFETCH(QString, styleSheet);
+    QFETCH(QString, styleWithRoom);
     const int dialog = launchModeless();
     object<QDialog>(dialog)->setStyleSheet(styleSheet);
     const int id = ZelGUIListAdd(dialog, 100, 100, size, size, 1, reportList<List>);
@@ -526,6 +528,9 @@ void tst_List::smallerThanScrollBars()
     QVERIFY(!list->horizontalScrollBar()->isVisible());
     ZelGUIListSetSelectedItem(id, 20);
     QCOMPARE(selectionOf(id), Positions({20}));
+    object<QDialog>(dialog)->setStyleSheet(styleWithRoom);
+    QTest::qWait(1);
+    QCOMPARE(list->verticalScrollBar()->isVisible(), !styleWithRoom.isEmpty());
 }
 
 void tst_List::handedOutSelection()

@@ -33,6 +33,10 @@ private Q_SLOTS:
     void messageInsteadOfAMenu();
     void rejectedAndMenuLeft_data();
     void rejectedAndMenuLeft();
+    void menuClosedBeforeTheReport_data();
+    void menuClosedBeforeTheReport();
+    void outOfReachBehindAMenu_data();
+    void outOfReachBehindAMenu();
     void reportBeforeAMenuItem_data();
     void reportBeforeAMenuItem();
     void hiddenOrDisabled();
@@ -278,6 +282,71 @@ void tst_TextFieldFocus::rejectedAndMenuLeft()
     QTest::mouseClick(object<QWidget>(m_other), Qt::LeftButton);
     QCOMPARE(log(), QStringList("Text bad"));
     QVERIFY(hasFocus());
+}
+
+void tst_TextFieldFocus::menuClosedBeforeTheReport_data()
+{
+    const Rows<QByteArray, QStringList> row("by", "expected");
+    row("host", "host", {"Text bad"});
+    row("host's own message", "message", {"Text bad"});
+    row("drop of the dialog", "drop", {});
+}
+
+// The toolkit waits for ever for a popup that is being closed and has to be closed for a message.
+void tst_TextFieldFocus::menuClosedBeforeTheReport()
+{
+    QFETCH(QByteArray, by);
+    QFETCH(QStringList, expected);
+    open();
+    showMessages();
+    QTest::keyPress(m_widget, Qt::Key_V, Qt::AltModifier);
+    QVERIFY(QApplication::activePopupWidget());
+    if (by == "host") {
+        QApplication::activePopupWidget()->close();
+    } else if (by == "message") {
+        QTimer::singleShot(50, qApp, [] { QApplication::activeModalWidget()->close(); });
+        ZelUtilDialogErrMsg("the host's");
+    } else {
+        ZelGUIDialogDrop(m_dialog);
+        QApplication::activePopupWidget()->close();
+    }
+    QTest::qWait(20);
+    QCOMPARE(log(), expected);
+    QVERIFY(!QApplication::activePopupWidget());
+    QCOMPARE(m_shownMessages, expected.size());
+}
+
+void tst_TextFieldFocus::outOfReachBehindAMenu_data()
+{
+    const Rows<bool, bool> row("isHidden", "hasMessage");
+    row("disabled", false, false);
+    row("hidden", true, false);
+    row("disabled, with a message", false, true);
+}
+
+// A menu bar that can't give the focus back to the field would keep it, and Escape.
+void tst_TextFieldFocus::outOfReachBehindAMenu()
+{
+    QFETCH(bool, isHidden);
+    QFETCH(bool, hasMessage);
+    open();
+    if (hasMessage)
+        showMessages();
+    const auto show = action(Text);
+    action(Text) = [this, isHidden, show] {
+        m_widget->setEnabled(isHidden);
+        m_widget->setVisible(!isHidden);
+        if (show)
+            show();
+    };
+    openMenu("key");
+    QTRY_COMPARE(log(), QStringList("Text bad"));
+    if (QWidget *const menu = QApplication::activePopupWidget())
+        QTest::keyClick(menu, Qt::Key_A);
+    QTRY_VERIFY(!QApplication::activePopupWidget());
+    QVERIFY(activate(m_window));
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_Escape);
+    QCOMPARE(log().last(), QStringLiteral("Close"));
 }
 
 void tst_TextFieldFocus::reportBeforeAMenuItem_data()

@@ -79,14 +79,14 @@ void limitWindow(QWidget &window)
     window.setMaximumSize(static_cast<int>(kLargestDialogPixels), static_cast<int>(kLargestDialogPixels));
 }
 
-void dropBarsWithoutRoom(QAbstractScrollArea &area)
+void allowBarsByRoom(QAbstractScrollArea &area)
 {
     const int bars = area.verticalScrollBar()->sizeHint().width() + area.horizontalScrollBar()->sizeHint().height();
     const QSize room = area.maximumSize() - QSize(bars, bars);
-    if (room.width() <= 2 * area.frameWidth() || room.height() <= 2 * area.frameWidth()) {
-        area.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        area.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    }
+    const bool hasRoom = room.width() > 2 * area.frameWidth() && room.height() > 2 * area.frameWidth();
+    const Qt::ScrollBarPolicy policy = hasRoom ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
+    area.setVerticalScrollBarPolicy(policy);
+    area.setHorizontalScrollBarPolicy(policy);
 }
 
 } // namespace orvane::zelgui

@@ -16,10 +16,11 @@ void placeWidget(QWidget *widget, int x, int y, int width, int height);
 /// Keeps a window that takes its size from what is in it from growing beyond the largest dialog.
 void limitWindow(QWidget &window);
 
-/// Turns the scroll bars off where a widget's fixed size leaves no room for them: the toolkit would show and hide them
-/// for ever. For the events QEvent::Polish, before the widget is first shown, and QEvent::StyleChange, when the widget
-/// has handled them: not before does it know what style sheets make of it and its bars.
-void dropBarsWithoutRoom(QAbstractScrollArea &area);
+/// Turns the scroll bars off where a widget's fixed size leaves no room for them, else on as needed: the toolkit would
+/// show and hide them for ever. For the events QEvent::Polish, before the widget is first shown, and
+/// QEvent::StyleChange, when the widget has handled them: not before does it know what style sheets make of it and its
+/// bars.
+void allowBarsByRoom(QAbstractScrollArea &area);
 
 } // namespace orvane::zelgui
 

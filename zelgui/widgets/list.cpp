@@ -218,7 +218,7 @@ bool ZelGUIList::event(QEvent *event)
     settleSelection();
     const bool isHandled = QListWidget::event(event);
     if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
-        dropBarsWithoutRoom(*this);
+        allowBarsByRoom(*this);
     return isHandled;
 }
 

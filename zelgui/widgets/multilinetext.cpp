@@ -43,7 +43,7 @@ bool ZelGUIText::event(QEvent *event)
 {
     const bool isHandled = QPlainTextEdit::event(event);
     if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
-        dropBarsWithoutRoom(*this);
+        allowBarsByRoom(*this);
     return isHandled;
 }
 

@@ -100,13 +100,12 @@ public:
     {
         if (!isInput(event->type()))
             return false;
-        const bool canBeLost = event->type() != QEvent::Close;
         if (m_isInputLost)
-            return canBeLost;
+            return true;
         const QPointer<ReportOncePopupIsOpen> guard(this);
         const QPointer<QObject> receiverGuard(receiver);
         const QPointer<QWidget> popup = QApplication::activePopupWidget();
-        const bool isForPopup = canBeLost && popup;
+        const bool isForPopup = popup;
         reportOnce();
         const bool isLost = isForPopup && (!popup || popup != QApplication::activePopupWidget());
         if (guard)
@@ -117,10 +116,10 @@ public:
 private:
     static bool isInput(QEvent::Type type)
     {
+        // Not QEvent::Close: a popup that is being closed can't be closed again, which a message would wait for.
         static constexpr QEvent::Type kTypes[] = {
-            QEvent::ShortcutOverride,    QEvent::KeyPress, QEvent::KeyRelease,  QEvent::MouseButtonPress,
-            QEvent::MouseButtonRelease,  QEvent::Wheel,    QEvent::ContextMenu, QEvent::Close,
-            QEvent::MouseButtonDblClick,
+            QEvent::ShortcutOverride,   QEvent::KeyPress, QEvent::KeyRelease,  QEvent::MouseButtonPress,
+            QEvent::MouseButtonRelease, QEvent::Wheel,    QEvent::ContextMenu, QEvent::MouseButtonDblClick,
         };
         return std::find(std::begin(kTypes), std::end(kTypes), type) != std::end(kTypes);
     }
@@ -226,13 +225,19 @@ void ZelGUITextField::editingFinished()
     m_isRejected = !isAccepted;
     if (m_isRejected && !m_correction)
         watchCorrection();
-    // What is out of the user's reach can't be corrected. A spin box is disabled before the field inside it.
-    const QWidget *const focused = focusProxy() ? focusProxy() : this;
-    if (isAccepted || !isVisible() || !focused->isEnabled())
+    // What is out of the user's reach can't be corrected.
+    if (isAccepted || !canHaveFocus())
         return;
     const QScopedValueRollback<bool> takingBack(isFocusTakenBack, true);
     selectAll();
     setFocus(Qt::MouseFocusReason);
+}
+
+bool ZelGUITextField::canHaveFocus() const
+{
+    // A spin box is disabled before the field inside it.
+    const QWidget *const focused = focusProxy() ? focusProxy() : this;
+    return isVisible() && focused->isEnabled();
 }
 
 bool ZelGUITextField::isLossToReport(const QFocusEvent &event) const
@@ -281,10 +286,18 @@ void ZelGUITextField::focusOutEvent(QFocusEvent *event)
 
 void ZelGUITextField::reportToOpenPopup()
 {
+    // With its dialog, the field is simply gone.
+    if (window()->isHidden())
+        return;
     const QPointer<ZelGUITextField> guard(this);
     editingFinished();
-    // A menu bar whose menu was opened by a key and closed by a message would keep the focus, and Escape.
-    if (guard && !QApplication::activePopupWidget() && qobject_cast<QMenuBar *>(window()->focusWidget()))
+    if (!guard || !qobject_cast<QMenuBar *>(window()->focusWidget()))
+        return;
+    // A menu bar would keep the focus, and Escape, when its menu has been closed by a message, or when what it would
+    // give the focus back to can't have it any more.
+    if (!canHaveFocus())
+        focusNextChild();
+    else if (!QApplication::activePopupWidget())
         setFocus(Qt::MenuBarFocusReason);
 }
 

@@ -40,6 +40,7 @@ private Q_SLOTS:
 private:
     void watchEditing();
     void watchCorrection();
+    bool canHaveFocus() const;
     bool isLossToReport(const QFocusEvent &event) const;
     void reportToOpenPopup();
 
