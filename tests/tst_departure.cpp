@@ -86,13 +86,14 @@ bool deleteItems(Play &play)
     return ZelGUIListGetItemCount(play.sender) <= 0 && ZelGUIOptionMenuGetItemCount(play.sender) <= 0;
 }
 
-/// Nothing of the dialog is to be seen or found any more, and what it consists of is still there.
-bool hasLeft(const Play &play, int inside)
+/// Nothing of the dialog is to be seen or found any more, what it consists of is still there, and so is the other one
+/// unless all leaves.
+bool hasLeft(const Play &play, End end, int inside)
 {
     const bool isOut = !play.widget || !play.widget->isVisible();
     ZelGUIDialogLaunch(play.dialog);
     ZelGUIDialogDrop(play.dialog);
-    return isOut && ZelGUIToggleGet(inside) == 0;
+    return isOut && ZelGUIToggleGet(inside) == 0 && play.isUp(play.other) == (end == End::OwnDialog);
 }
 
 const QVector<Deed> kDeeds = {
@@ -255,7 +256,7 @@ bool playCell(const Trigger &trigger, const Deed &deed)
         action(trigger.callback) = nullptr;
         isDone = true;
         hasWorked = deed.act(play);
-        hasWorked = hasWorked && (deed.end == End::None || hasLeft(play, inside));
+        hasWorked = hasWorked && (deed.end == End::None || hasLeft(play, deed.end, inside));
     };
     // Rejecting, so that a field goes on with what is left of it.
     answer(Text) = 0;

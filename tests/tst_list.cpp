@@ -330,6 +330,12 @@ void tst_List::oneAtATimeAmongMany_data()
         selectRange(bare, 2, 2, QItemSelectionModel::Toggle);
     });
     row("nobody looks", [](int, QListWidget &, QListWidget &) {});
+    row("one more often than there are rows", [](int id, QListWidget &list, QListWidget &bare) {
+        for (int i = 0; i <= list.count(); ++i) {
+            ZelGUIListSetSelectedItem(id, 2);
+            selectRange(bare, 2, 2, QItemSelectionModel::Select);
+        }
+    });
 }
 
 /// Among many ranges, what is selected one by one reaches the toolkit later than the call. Nobody may see that.

@@ -12,9 +12,9 @@ require_packages $build_packages $check_packages $coverage_packages
 [ -f build/coverage/build.ninja ] || cmake --preset coverage
 cmake --build --preset coverage
 find build/coverage -name '*.gcda' -delete
-# What runs at random mustn't decide, nor what a failing host cuts off, and what tries the installed package needs it
-# built otherwise.
-ctest --preset coverage --parallel 2 --exclude-regex '^(torture_|package|docs_)|_scarce$'
+# What runs at random mustn't decide, nor what a failing host cuts off; what tries the installed package, or counts what
+# the library does, needs it built otherwise.
+ctest --preset coverage --parallel 2 --exclude-regex '^(torture_|package|docs_|startup|cost)|_scarce$'
 # What only an exception takes isn't counted: nearly every call of the toolkit might throw one.
 gcovr --root . --object-directory build/coverage --filter 'zelgui/.*' --exclude '.*_autogen/.*' \
     --exclude-throw-branches --exclude-unreachable-branches --print-summary --txt build/coverage/coverage.txt \
