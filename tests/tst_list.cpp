@@ -139,6 +139,8 @@ private Q_SLOTS:
     void capacity();
     void smallerThanScrollBars_data();
     void smallerThanScrollBars();
+    void changedItemsBehindTheUser_data();
+    void changedItemsBehindTheUser();
     void handedOutSelection();
 };
 
@@ -537,6 +539,49 @@ void tst_List::smallerThanScrollBars()
     object<QDialog>(dialog)->setStyleSheet(styleWithRoom);
     QTest::qWait(1);
     QCOMPARE(list->verticalScrollBar()->isVisible(), !styleWithRoom.isEmpty());
+}
+
+void tst_List::changedItemsBehindTheUser_data()
+{
+    const Rows<QByteArray, int> row("by", "itemsAfter");
+    for (const char *const by : {"key", "letter", "drag"}) {
+        row(QByteArray(by) + ", deleted", by, 0);
+        row(QByteArray(by) + ", replaced by fewer", by, 2);
+        row(QByteArray(by) + ", replaced by more", by, 9);
+    }
+}
+
+/// The toolkit goes on with the item that the user has moved to, also when the callback has deleted it.
+void tst_List::changedItemsBehindTheUser()
+{
+    QFETCH(QByteArray, by);
+    QFETCH(int, itemsAfter);
+    const int id = addList(launchModeless(), true, 6);
+    auto *const list = shown<QListWidget>(id);
+    list->setFocus();
+    list->setCurrentRow(3);
+    log().clear();
+    action(List) = [&] {
+        action(List) = nullptr;
+        setItems(id, QVector<QByteArray>(itemsAfter, "new"));
+    };
+    const auto centre = [list](int row) { return list->visualItemRect(list->item(row)).center(); };
+    if (by == "key") {
+        QTest::keyClick(list, Qt::Key_Down);
+    } else if (by == "letter") {
+        QTest::keyClick(list, Qt::Key_5);
+    } else {
+        const QPoint to = centre(4);
+        QTest::mousePress(list->viewport(), Qt::LeftButton, {}, centre(3));
+        QMouseEvent move(QEvent::MouseMove, to, list->viewport()->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(list->viewport(), &move);
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, to);
+    }
+    QCOMPARE(log(), QStringList(by == "drag" ? "List 4 5" : "List 5"));
+    // If not, it would find out now, and say so.
+    ZelGUIListAppendItem(id, "one more");
+    ZelGUIListDeleteItemAtPos(id, 1);
+    QCOMPARE(ZelGUIListGetItemCount(id), itemsAfter);
 }
 
 void tst_List::handedOutSelection()

@@ -213,6 +213,22 @@ void ZelGUIList::selectAll()
     selectionModel()->blockSignals(wasBlocked);
 }
 
+/// For what the user types. It is reported when the toolkit is done: it goes on with the item that it has found, which
+/// a callback may delete.
+void ZelGUIList::keyboardSearch(const QString &search)
+{
+    bool hasChanged = false;
+    const auto note = [&hasChanged] { hasChanged = true; };
+    const auto connection = connect(this, &QListWidget::itemSelectionChanged, this, note);
+    {
+        const CallbackSuppressor suppressor;
+        QListWidget::keyboardSearch(search);
+    }
+    disconnect(connection);
+    if (hasChanged)
+        onItemSelectedChanged();
+}
+
 bool ZelGUIList::event(QEvent *event)
 {
     settleSelection();

@@ -26,6 +26,7 @@ public:
     void settleSelection() noexcept;
 
     void selectAll() override;
+    void keyboardSearch(const QString &search) override;
 
 protected:
     bool event(QEvent *event) override;
