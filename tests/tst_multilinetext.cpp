@@ -2,7 +2,9 @@
 #include "support/rows.h"
 #include "support/zeltest.h"
 
+#include <QContextMenuEvent>
 #include <QFontInfo>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 
@@ -18,6 +20,7 @@ private Q_SLOTS:
     void comesBackAsPutIn();
     void appending();
     void userChanges();
+    void ownMenuStaysDuringTheReport();
     void readOnly();
     void wrappingAndFont();
     void tooSmallForScrollBars_data();
@@ -73,6 +76,30 @@ void tst_MultiLineText::userChanges()
     QTest::keyClick(edit, Qt::Key_A);
     QTest::keyClick(edit, Qt::Key_Delete);
     QCOMPARE(log(), QStringList({QString::fromUtf8("Text ax\xC2\xA0"), QString::fromUtf8("Text a\xC2\xA0")}));
+}
+
+/// The toolkit goes on with the menu in which the user has chosen, though it is to be deleted.
+void tst_MultiLineText::ownMenuStaysDuringTheReport()
+{
+    const int id = ZelGUITextAdd(launchModeless(), 100, 100, 2000, 500, 0, reportText<Text>);
+    auto *const edit = shown<QPlainTextEdit>(id);
+    QTest::keyClick(edit, Qt::Key_A);
+    QContextMenuEvent ask(QContextMenuEvent::Keyboard, QPoint(2, 2), edit->mapToGlobal(QPoint(2, 2)));
+    QApplication::sendEvent(edit->viewport(), &ask);
+    const QPointer<QMenu> menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    bool isMenuThere = false;
+    action(Text) = [&] {
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        isMenuThere = menu;
+    };
+    log().clear();
+    const QPoint undo = menu->actionGeometry(menu->actions().first()).center();
+    QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {}, undo);
+    QCOMPARE(log(), QStringList("Text "));
+    QVERIFY(isMenuThere);
+    QTRY_VERIFY(!menu);
 }
 
 void tst_MultiLineText::readOnly()

@@ -2,6 +2,7 @@
 #include "widgets/multilinetext.h"
 
 #include "core/callback.h"
+#include "core/endedpopups.h"
 #include "core/entrypoint.h"
 #include "core/placement.h"
 #include "core/text.h"
@@ -50,8 +51,11 @@ bool ZelGUIText::event(QEvent *event)
 void ZelGUIText::onTextChanged()
 {
     // The whole text is gathered only for who wants to hear of it.
-    if (m_callback && !ZelGUIWidgetRepository::instance()->callbacksSuppressed())
-        askWhetherAccepted(this, m_callback, textOf(*this));
+    if (!m_callback || ZelGUIWidgetRepository::instance()->callbacksSuppressed())
+        return;
+    // The change may have been chosen in the text's own menu.
+    const EndedPopups endedPopups;
+    askWhetherAccepted(this, m_callback, textOf(*this));
 }
 
 } // namespace orvane::zelgui

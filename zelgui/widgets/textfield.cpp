@@ -2,6 +2,7 @@
 #include "widgets/textfield.h"
 
 #include "core/callback.h"
+#include "core/endedpopups.h"
 #include "core/entrypoint.h"
 #include "core/placement.h"
 #include "core/text.h"
@@ -20,7 +21,6 @@
 #include <iterator>
 #include <optional>
 #include <utility>
-#include <vector>
 
 namespace orvane::zelgui {
 
@@ -137,52 +137,6 @@ private:
     bool m_isInputLost = false;
 };
 
-/// Keeps popup menus that are about to be deleted while a field reports that its window is not the active one any more.
-/// The toolkit is just making another one active, and goes on with a popup that has ended meanwhile when the loss has
-/// been reported; a loop inside the callback must not delete it until then.
-class EndedPopups : public QObject
-{
-public:
-    EndedPopups() : m_isOutermost(!std::exchange(s_areKept, true))
-    {
-        if (!m_isOutermost)
-            return;
-        // Only those: what the add-on makes in its callback goes when it wants it to go.
-        for (QWidget *const window : QApplication::topLevelWidgets()) {
-            if (window->windowType() == Qt::Popup)
-                m_popups.emplace_back(window);
-        }
-        qApp->installEventFilter(this);
-    }
-    ~EndedPopups() override
-    {
-        if (!m_isOutermost)
-            return;
-        s_areKept = false;
-        if (m_ended.empty())
-            return;
-        const auto deleteAll = [popups = std::move(m_ended)] {
-            for (const QPointer<QObject> &popup : popups)
-                delete popup.data();
-        };
-        QMetaObject::invokeMethod(qApp, deleteAll, Qt::QueuedConnection);
-    }
-    bool eventFilter(QObject *object, QEvent *event) override
-    {
-        if (event->type() != QEvent::DeferredDelete ||
-            std::find(m_popups.begin(), m_popups.end(), object) == m_popups.end())
-            return false;
-        m_ended.emplace_back(object);
-        return true;
-    }
-
-private:
-    inline static bool s_areKept = false;
-    const bool m_isOutermost;
-    std::vector<QPointer<QObject>> m_popups;
-    std::vector<QPointer<QObject>> m_ended;
-};
-
 } // namespace
 
 ZelGUITextField::ZelGUITextField(QWidget *parent, int x, int y, int width, int height, ZelGUITextCallback callback)
@@ -278,6 +232,7 @@ void ZelGUITextField::focusOutEvent(QFocusEvent *event)
         return;
     }
     const InterruptedClick click(reason);
+    // The toolkit is just making another window active, and goes on with a popup that has ended meanwhile.
     std::optional<EndedPopups> endedPopups;
     if (reason == Qt::ActiveWindowFocusReason)
         endedPopups.emplace();
