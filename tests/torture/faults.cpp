@@ -56,7 +56,7 @@ void play(std::uint64_t seed, const FaultCase &faultCase)
 
 bool failOnce(std::uint64_t seed, const FaultCase &faultCase, const char *program)
 {
-    return runRound([&] { play(seed, faultCase); }, [&](std::int64_t) { return commandOf(seed, faultCase, program); });
+    return runRound([&] { play(seed, faultCase); }, [&] { return commandOf(seed, faultCase, program); });
 }
 
 bool failEverywhere(std::uint64_t seed, int share, const char *program)

@@ -86,7 +86,7 @@ void failAtWarnings()
     qInstallMessageHandler(handleMessage);
 }
 
-bool runRound(const std::function<void()> &round, const std::function<std::string(std::int64_t)> &command)
+bool runRound(const std::function<void()> &round, const std::function<std::string()> &command)
 {
     progress().step = 0;
     for (auto &occasions : progress().occasions)
@@ -115,7 +115,7 @@ bool runRound(const std::function<void()> &round, const std::function<std::strin
         return true;
     const std::int64_t step = progress().step;
     std::fprintf(stderr, "FAILED at step %lld, %s%s\nreplay: %s\n", static_cast<long long>(step),
-                 isStuck ? "stuck, " : "", describe(status).c_str(), command(step + 1).c_str());
+                 isStuck ? "stuck, " : "", describe(status).c_str(), command().c_str());
     static int failures = 0;
     if (++failures == kMostFailures)
         std::_Exit(1);

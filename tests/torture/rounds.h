@@ -31,9 +31,9 @@ Progress &progress();
 void failAtWarnings();
 
 /// Runs `round` in a process of its own, in which an application object lives but no main window. False if it did not
-/// end well: it has failed, crashed, leaked or made no step for minutes. Then `command`, which plays the round until
-/// the step in its argument, has been printed.
-bool runRound(const std::function<void()> &round, const std::function<std::string(std::int64_t steps)> &command);
+/// end well: it has failed, crashed, leaked or made no step for minutes. Then `command`, which plays it again, has
+/// been printed.
+bool runRound(const std::function<void()> &round, const std::function<std::string()> &command);
 
 } // namespace torture
 
