@@ -20,6 +20,7 @@ private Q_SLOTS:
     void comesBackAsPutIn();
     void appending();
     void userChanges();
+    void ownMenuStaysDuringTheReport_data();
     void ownMenuStaysDuringTheReport();
     void readOnly();
     void wrappingAndFont();
@@ -78,26 +79,52 @@ void tst_MultiLineText::userChanges()
     QCOMPARE(log(), QStringList({QString::fromUtf8("Text ax\xC2\xA0"), QString::fromUtf8("Text a\xC2\xA0")}));
 }
 
+void tst_MultiLineText::ownMenuStaysDuringTheReport_data()
+{
+    const Rows<bool, bool> row("isInside", "isAround");
+    row("alone", false, false);
+    row("inside another's report", true, false);
+    row("around another's report", false, true);
+}
+
 /// The toolkit goes on with the menu in which the user has chosen, though it is to be deleted.
 void tst_MultiLineText::ownMenuStaysDuringTheReport()
 {
-    const int id = ZelGUITextAdd(launchModeless(), 100, 100, 2000, 500, 0, reportText<Text>);
-    auto *const edit = shown<QPlainTextEdit>(id);
+    QFETCH(bool, isInside);
+    QFETCH(bool, isAround);
+    const int dialog = launchModeless();
+    auto *const edit = shown<QPlainTextEdit>(ZelGUITextAdd(dialog, 100, 100, 2000, 500, 0, reportText<Text>));
+    auto *const other = shown<QPlainTextEdit>(ZelGUITextAdd(dialog, 100, 700, 2000, 500, 0, reportText<OtherText>));
     QTest::keyClick(edit, Qt::Key_A);
-    QContextMenuEvent ask(QContextMenuEvent::Keyboard, QPoint(2, 2), edit->mapToGlobal(QPoint(2, 2)));
-    QApplication::sendEvent(edit->viewport(), &ask);
-    const QPointer<QMenu> menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-    QVERIFY(menu);
+    QPointer<QMenu> menu;
     bool isMenuThere = false;
+    const auto processEvents = [] {
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    };
     action(Text) = [&] {
-        QCoreApplication::processEvents();
-        QCoreApplication::processEvents();
+        if (isAround)
+            QTest::keyClick(other, Qt::Key_B);
+        processEvents();
         isMenuThere = menu;
     };
+    const auto chooseUndo = [&] {
+        QContextMenuEvent ask(QContextMenuEvent::Keyboard, QPoint(2, 2), edit->mapToGlobal(QPoint(2, 2)));
+        QApplication::sendEvent(edit->viewport(), &ask);
+        menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        const QPoint undo = menu->actionGeometry(menu->actions().first()).center();
+        QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {}, undo);
+    };
     log().clear();
-    const QPoint undo = menu->actionGeometry(menu->actions().first()).center();
-    QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {}, undo);
-    QCOMPARE(log(), QStringList("Text "));
+    if (isInside) {
+        action(OtherText) = chooseUndo;
+        QTest::keyClick(other, Qt::Key_B);
+    } else {
+        action(OtherText) = processEvents;
+        chooseUndo();
+    }
+    QVERIFY(log().contains(QStringLiteral("Text ")));
     QVERIFY(isMenuThere);
     QTRY_VERIFY(!menu);
 }

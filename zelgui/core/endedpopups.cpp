@@ -10,10 +10,8 @@
 
 namespace orvane::zelgui {
 
-EndedPopups::EndedPopups() : m_isOutermost(!std::exchange(s_areKept, true))
+EndedPopups::EndedPopups() : m_outer(std::exchange(s_innermost, this))
 {
-    if (!m_isOutermost)
-        return;
     // Only those: what the add-on makes in its callback goes when it wants it to go.
     for (QWidget *const window : QApplication::topLevelWidgets()) {
         if (window->windowType() == Qt::Popup)
@@ -25,25 +23,36 @@ EndedPopups::EndedPopups() : m_isOutermost(!std::exchange(s_areKept, true))
 
 EndedPopups::~EndedPopups()
 {
-    if (!m_isOutermost)
-        return;
-    s_areKept = false;
+    s_innermost = m_outer;
     if (m_ended.empty())
         return;
     const auto deleteAll = [popups = std::move(m_ended)] {
         for (const QPointer<QObject> &popup : popups)
-            delete popup.data();
+            deleteUnlessKept(popup);
     };
     QMetaObject::invokeMethod(qApp, deleteAll, Qt::QueuedConnection);
 }
 
 bool EndedPopups::eventFilter(QObject *object, QEvent *event)
 {
-    if (event->type() != QEvent::DeferredDelete ||
-        std::find(m_popups.begin(), m_popups.end(), object) == m_popups.end())
+    if (event->type() != QEvent::DeferredDelete || !isKept(object))
         return false;
     m_ended.emplace_back(object);
     return true;
+}
+
+bool EndedPopups::isKept(const QObject *popup) const
+{
+    return std::find(m_popups.begin(), m_popups.end(), popup) != m_popups.end();
+}
+
+/// By now, another callback may be running from inside the work with the same popup.
+void EndedPopups::deleteUnlessKept(QObject *popup)
+{
+    if (popup && s_innermost && s_innermost->isKept(popup))
+        s_innermost->m_ended.emplace_back(popup);
+    else
+        delete popup;
 }
 
 } // namespace orvane::zelgui

@@ -10,7 +10,7 @@
 namespace orvane::zelgui {
 
 /// Keeps popup menus that are about to be deleted while a callback runs from inside the toolkit's work with a popup,
-/// with which it goes on afterwards: a loop inside the callback must not delete it until then.
+/// with which it goes on afterwards: a loop inside the callback must not delete it until then. Such callbacks may nest.
 class EndedPopups : public QObject
 {
 public:
@@ -19,8 +19,11 @@ public:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
-    inline static bool s_areKept = false;
-    const bool m_isOutermost;
+    bool isKept(const QObject *popup) const;
+    static void deleteUnlessKept(QObject *popup);
+
+    inline static EndedPopups *s_innermost = nullptr;
+    EndedPopups *const m_outer;
     std::vector<QPointer<QObject>> m_popups;
     std::vector<QPointer<QObject>> m_ended;
 };
