@@ -47,11 +47,6 @@ QStringList snapshot(const QObject *root, bool hasIdentifiers)
     QStringList state;
     auto objects = root->findChildren<QObject *>();
     objects.prepend(const_cast<QObject *>(root));
-    // Which changes some, and asking for a size would do it on the way.
-    for (QObject *const object : objects) {
-        if (auto *const widget = qobject_cast<QWidget *>(object))
-            widget->ensurePolished();
-    }
     for (const QObject *const object : objects) {
         const QMetaObject *const meta = object->metaObject();
         QString line = QString::fromLatin1(meta->className());
