@@ -45,33 +45,46 @@ public:
     int down(int units) const { return toPixels(units / 100.0 * m_fontHeight); }
 
 private:
-    int toPixels(double pixels) const { return static_cast<int>(std::clamp(pixels + 0.499, 0.0, m_largest)); }
+    int toPixels(double pixels) const { return static_cast<int>(std::min(std::max(0.0, pixels + 0.499), m_largest)); }
 
     double m_fontHeight;
     double m_ratio;
     double m_largest;
 };
 
+void placeUpTo(double largest, QWidget &widget, int x, int y, int width, int height)
+{
+    const PixelScale scale(widget, largest);
+    const QPoint position(scale.across(x), scale.down(y));
+    const QSize size(scale.across(width), scale.down(height));
+    if (x > 0 && y > 0)
+        widget.move(position);
+
+    // Fixing both dimensions at once spares the first paint a good part of its time.
+    if (width > 0 && height > 0)
+        widget.setFixedSize(size);
+    else if (width > 0)
+        widget.setFixedWidth(size.width());
+    else if (height > 0)
+        widget.setFixedHeight(size.height());
+}
+
 } // namespace
 
 void placeWidget(QWidget *widget, int x, int y, int width, int height)
 {
-    // No dialog is made inside of another widget, and a cast takes as long as the rest.
-    const bool isDialog = widget->isWindow() && qobject_cast<QDialog *>(widget);
-    const PixelScale scale(*widget, isDialog ? kLargestDialogPixels : kLargestPixels);
-    if (x > 0 && y > 0)
-        widget->move(scale.across(x), scale.down(y));
+    placeUpTo(kLargestPixels, *widget, x, y, width, height);
+    widget->setFocusPolicy(Qt::StrongFocus);
+}
 
-    // Fixing both dimensions at once spares the first paint a good part of its time.
-    if (width > 0 && height > 0)
-        widget->setFixedSize(scale.across(width), scale.down(height));
-    else if (width > 0)
-        widget->setFixedWidth(scale.across(width));
-    else if (height > 0)
-        widget->setFixedHeight(scale.down(height));
+void placeWidget(QLabel *label, int x, int y, int width, int height)
+{
+    placeUpTo(kLargestPixels, *label, x, y, width, height);
+}
 
-    if (!isDialog && !qobject_cast<QLabel *>(widget))
-        widget->setFocusPolicy(Qt::StrongFocus);
+void placeWidget(QDialog *dialog, int x, int y, int width, int height)
+{
+    placeUpTo(kLargestDialogPixels, *dialog, x, y, width, height);
 }
 
 void limitWindow(QWidget &window)

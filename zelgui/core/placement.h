@@ -3,6 +3,8 @@
 #define ZELGUI_CORE_PLACEMENT_H
 
 class QAbstractScrollArea;
+class QDialog;
+class QLabel;
 class QWidget;
 
 namespace orvane::zelgui {
@@ -12,6 +14,8 @@ namespace orvane::zelgui {
 /// and y are positive, and each dimension is fixed only if it is positive. Everything but dialogs and labels can have
 /// the keyboard focus afterwards, by Tab and by click.
 void placeWidget(QWidget *widget, int x, int y, int width, int height);
+void placeWidget(QLabel *label, int x, int y, int width, int height);
+void placeWidget(QDialog *dialog, int x, int y, int width, int height);
 
 /// Keeps a window that takes its size from what is in it from growing beyond the largest dialog.
 void limitWindow(QWidget &window);
