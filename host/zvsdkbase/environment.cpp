@@ -23,14 +23,12 @@ std::optional<Resolution> overridden;
 
 Resolution screenResolution()
 {
-    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
-        const QWidget *window = orvane::ui::findMainWindow(false);
-        const QScreen *screen = window ? window->screen() : nullptr;
-        if (!screen)
-            screen = QGuiApplication::primaryScreen();
-        if (screen)
-            return {screen->logicalDotsPerInchX(), screen->logicalDotsPerInchY()};
-    }
+    const QWidget *const window = orvane::ui::findMainWindow(false);
+    const QScreen *screen = window ? window->screen() : nullptr;
+    if (!screen && qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        screen = QGuiApplication::primaryScreen();
+    if (screen)
+        return {screen->logicalDotsPerInchX(), screen->logicalDotsPerInchY()};
     // What desktops take for granted where they are not told otherwise.
     return {96.0, 96.0};
 }
