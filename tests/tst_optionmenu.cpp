@@ -35,7 +35,7 @@ private Q_SLOTS:
 void tst_OptionMenu::items_data()
 {
     const Rows<QByteArray, QStringList> row("list", "items");
-    row("trimmed", "Linear, Log ,Custom", {"Linear", "Log", "Custom"});
+    row("trimmed", "Linear, Log ,\tCustom,Last\n, ", {"Linear", "Log", "Custom", "Last", ""});
     row("empty ones", ",A,,B,", {"", "A", "", "B", ""});
     row("nothing", "", {""});
     row("null", QByteArray(), {""});

@@ -46,6 +46,22 @@ QByteArray usableFormat(const char *format)
     return precise;
 }
 
+/// What no locale takes for white space: POSIX keeps its classes apart. Most texts begin and end with it.
+bool isAsciiLetterOrDigit(char character)
+{
+    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||
+           (character >= '0' && character <= '9');
+}
+
+Characters trimByLocale(Characters text)
+{
+    const std::locale locale;
+    // Boost's own predicate looks the facet up anew for each character.
+    const auto &types = std::use_facet<std::ctype<char>>(locale);
+    const auto isSpace = [&types](char character) { return types.is(std::ctype_base::space, character); };
+    return boost::algorithm::trim_copy_if(text, isSpace);
+}
+
 } // namespace
 
 QString fromLatin1(const char *text)
@@ -55,11 +71,8 @@ QString fromLatin1(const char *text)
 
 QString fromTrimmedLatin1(Characters text)
 {
-    const std::locale locale;
-    // Boost's own predicate looks the facet up anew for each character.
-    const auto &types = std::use_facet<std::ctype<char>>(locale);
-    const auto isSpace = [&types](char character) { return types.is(std::ctype_base::space, character); };
-    const Characters trimmed = boost::algorithm::trim_copy_if(text, isSpace);
+    const bool mayHaveSpace = text.empty() || !isAsciiLetterOrDigit(text.front()) || !isAsciiLetterOrDigit(text.back());
+    const Characters trimmed = mayHaveSpace ? trimByLocale(text) : text;
     constexpr std::size_t kLongest = std::numeric_limits<int>::max();
     return QString::fromLatin1(trimmed.begin(), static_cast<int>(std::min<std::size_t>(trimmed.size(), kLongest)));
 }
