@@ -40,6 +40,8 @@ struct Deed
     const char *name;
     End end;
     std::function<bool(Play &)> act;
+    /// Whether the dialog is in the main window itself, not in a parent dialog.
+    bool isInMainWindow = false;
 };
 
 /// Launches a dialog that is closed as soon as it waits for the user.
@@ -96,6 +98,19 @@ bool hasLeft(const Play &play, End end, int inside)
     return isOut && ZelGUIToggleGet(inside) == 0 && play.isUp(play.other) == (end == End::OwnDialog);
 }
 
+bool deleteMainWindow(Play &play)
+{
+    delete play.mainWindow;
+    return play.widget && !play.widget->isVisible();
+}
+
+bool deleteMainWindowInNested(Play &play)
+{
+    play.whenLaunched([&play] { delete play.mainWindow; });
+    ZelGUIDialogLaunch(play.nested);
+    return play.widget && !play.widget->isVisible();
+}
+
 const QVector<Deed> kDeeds = {
     {"drop own", End::None,
      [](Play &play) {
@@ -145,17 +160,10 @@ const QVector<Deed> kDeeds = {
          ZelGUIDialogLaunch(play.nestedInOwn);
          return !play.widget;
      }},
-    {"delete main window", End::MainWindow,
-     [](Play &play) {
-         delete play.mainWindow;
-         return play.widget && !play.widget->isVisible();
-     }},
-    {"delete main window, in a nested one", End::MainWindow,
-     [](Play &play) {
-         play.whenLaunched([&play] { delete play.mainWindow; });
-         ZelGUIDialogLaunch(play.nested);
-         return play.widget && !play.widget->isVisible();
-     }},
+    {"delete main window", End::MainWindow, deleteMainWindow},
+    {"delete main window, in a nested one", End::MainWindow, deleteMainWindowInNested},
+    {"delete main window, its parent", End::MainWindow, deleteMainWindow, true},
+    {"delete main window, its parent, in a nested one", End::MainWindow, deleteMainWindowInNested, true},
 };
 
 #define REQUIRE(condition)                                                                                             \
@@ -167,7 +175,7 @@ const QVector<Deed> kDeeds = {
         }                                                                                                              \
     } while (false)
 
-void setUp(Play &play, bool isModal)
+void setUp(Play &play, bool isModal, bool isInMainWindow)
 {
     play.mainWindow = new QMainWindow;
     play.mainWindow->show();
@@ -177,7 +185,8 @@ void setUp(Play &play, bool isModal)
     };
     play.parent = ZelTest::createModeless();
     play.parentWidget = find(play.parent);
-    play.dialog = isModal ? ZelTest::createModal(play.parent) : ZelTest::createModeless(play.parent);
+    const int parent = isInMainWindow ? ZELGUI_MAIN_WINDOW : play.parent;
+    play.dialog = isModal ? ZelTest::createModal(parent) : ZelTest::createModeless(parent);
     play.widget = find(play.dialog);
     play.nested = createNested(play.parent);
     play.nestedInOwn = createNested(play.dialog);
@@ -246,7 +255,7 @@ bool isRelaunchable(const Play &play, int inside)
 bool playCell(const Trigger &trigger, const Deed &deed)
 {
     Play play;
-    setUp(play, trigger.callback != Close);
+    setUp(play, trigger.callback != Close, deed.isInMainWindow);
     const int inside = ZelGUIToggleAdd(play.dialog, 100, 100, 1000, 100, "", nullptr);
     ZelGUIToggleSet(inside, 1);
 
