@@ -86,7 +86,7 @@ public:
         slider->setTickInterval(1);
         place(slider, x + 900, y + 600, 700, 130);
         auto *const display = new QLabel(m_dialog);
-        measureAgain(display);
+        measureLineAgain(display);
         display->move(slider->x(), slider->y() - m_line);
         display->setFixedSize(slider->width(), m_line);
         display->setAlignment(Qt::AlignHCenter);
@@ -141,6 +141,12 @@ private:
     {
         if (Service::isFull)
             measure(widget);
+    }
+
+    void measureLineAgain(const QWidget *widget)
+    {
+        if (Service::isFull)
+            m_line = QFontMetrics(widget->font()).height();
     }
 
     void measure(const QWidget *widget)

@@ -24,7 +24,7 @@ struct Bound
 };
 
 constexpr Bound kBounds[] = {
-    {"dialog of 200 widgets: create", 1.15},
+    {"dialog of 200 widgets: create", 1.10},
     {"dialog of 200 widgets: show until painted", 1.05},
     {"dialog of 200 widgets: destroy", 1.15},
     {"text field: set text", 1.10},
