@@ -37,10 +37,10 @@ bool hostHasRuns()
 /// The last of the members that follow one another from `member` on. `next` becomes the member after them, or 0.
 LgIndex runEnd(IndexSet set, LgIndex member, LgIndex &next)
 {
-    LgIndex last = hostHasRuns() ? std::max(member, ZelUtilSetGetRunEnd(set, member)) : member;
+    LgIndex last = member;
     next = ZelUtilSetGetNextMember(set, last);
     while (next != 0 && next - 1 == last) {
-        last = next;
+        last = hostHasRuns() ? std::max(next, ZelUtilSetGetRunEnd(set, next)) : next;
         next = ZelUtilSetGetNextMember(set, last);
     }
     return last;
