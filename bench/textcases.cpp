@@ -97,7 +97,9 @@ Case writingSet()
                 text += QString::number(member) + QLatin1Char(',');
             field->setText(text);
         };
-        return Comparison{{nullptr, [=, keep = dialog] { ZelGUITextFieldSetSet(id, set.get(), 1); }}, {nullptr, bare}};
+        // A text that is there already would be set faster.
+        const auto clear = [=] { field->clear(); };
+        return Comparison{{clear, [=, keep = dialog] { ZelGUITextFieldSetSet(id, set.get(), 1); }}, {clear, bare}};
     };
     return {"text field: write a set", {Goal::Ratio, 1.10}, {1000, 10000, 100000, 1000000}, 1, make};
 }
