@@ -46,7 +46,8 @@ QByteArray usableFormat(const char *format)
     return precise;
 }
 
-/// What no locale takes for white space: POSIX keeps its classes apart. Most texts begin and end with it.
+/// What no locale of the system takes for white space, since POSIX keeps these classes apart. Most texts begin and end
+/// with it.
 bool isAsciiLetterOrDigit(char character)
 {
     return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||

@@ -14,7 +14,8 @@ using Characters = boost::iterator_range<const char *>;
 /// Latin-1 text of an add-on; null is empty.
 QString fromLatin1(const char *text);
 
-/// Latin-1 text without the white space at its ends, as the global locale classifies it; null is empty.
+/// Latin-1 text without the white space at its ends; null is empty. The global locale says what that is, but letters
+/// and digits of ASCII at both ends are never looked up.
 QString fromTrimmedLatin1(const char *text);
 QString fromTrimmedLatin1(Characters text);
 
