@@ -32,6 +32,24 @@ std::optional<LgIndex> toLgIndex(const QString &digits)
     return isNumber ? std::optional<LgIndex>(number) : std::nullopt;
 }
 
+/// The number or MX expression somewhere in a text.
+std::optional<LgIndex> findLgIndex(const QString &typed)
+{
+    // Digits and blanks of every script match, though only ASCII digits convert: a text with others is no number,
+    // rather than the number made of its ASCII digits alone.
+    static const auto kOptions = QRegularExpression::UseUnicodePropertiesOption;
+    static const QRegularExpression kPlain(QStringLiteral(R"((\d+))"), kOptions);
+    static const QRegularExpression kOffset(QStringLiteral(R"(MX\s*-\s*(\d+))"), kOptions);
+
+    const QString text = typed.toUpper().trimmed();
+    if (text == mx())
+        return 0;
+    const bool isMX = text.contains(mx());
+    const QRegularExpressionMatch match = (isMX ? kOffset : kPlain).match(text);
+    const std::optional<LgIndex> number = toLgIndex(match.captured(1));
+    return number && isMX ? -*number : number;
+}
+
 } // namespace
 
 QLineEdit *lineEditOf(int id)
@@ -57,24 +75,10 @@ bool containsMX(const QLineEdit &field)
 
 std::optional<LgIndex> readLgIndex(const QLineEdit &field)
 {
-    // Digits and blanks of every script match, though only ASCII digits convert: a text with others is no number,
-    // rather than the number made of its ASCII digits alone.
-    static const auto kOptions = QRegularExpression::UseUnicodePropertiesOption;
-    static const QRegularExpression kPlain(QStringLiteral(R"((\d+))"), kOptions);
-    static const QRegularExpression kOffset(QStringLiteral(R"(MX\s*-\s*(\d+))"), kOptions);
-
-    const QString typed = field.text();
-    // What a field mostly holds; the pattern would find the same.
-    if (!typed.isEmpty() && std::all_of(typed.begin(), typed.end(), isAsciiDigit))
-        return toLgIndex(typed);
-
-    const QString text = typed.toUpper().trimmed();
-    if (text == mx())
-        return 0;
-    const bool isMX = text.contains(mx());
-    const QRegularExpressionMatch match = (isMX ? kOffset : kPlain).match(text);
-    const std::optional<LgIndex> number = toLgIndex(match.captured(1));
-    return number && isMX ? -*number : number;
+    const QString text = field.text();
+    // What a field mostly holds; the search would find the same.
+    const bool isPlain = !text.isEmpty() && std::all_of(text.begin(), text.end(), isAsciiDigit);
+    return isPlain ? toLgIndex(text) : findLgIndex(text);
 }
 
 bool writeText(QLineEdit &field, const QString &text)
