@@ -12,7 +12,8 @@ namespace orvane::zelgui {
 /// Moves a widget within its parent and fixes its size, all in font units: hundredths of the height of the widget's
 /// font as it is now, across times 0.45 and the ratio of the screen's resolutions. The widget is moved only if both x
 /// and y are positive, and each dimension is fixed only if it is positive. Everything but dialogs and labels can have
-/// the keyboard focus afterwards, by Tab and by click.
+/// the keyboard focus afterwards, by Tab and by click. What the compiler takes a widget for decides: pass a label as a
+/// label, and a dialog, which may be 8192 pixels wide and high instead of 32767, as a dialog.
 void placeWidget(QWidget *widget, int x, int y, int width, int height);
 void placeWidget(QLabel *label, int x, int y, int width, int height);
 void placeWidget(QDialog *dialog, int x, int y, int width, int height);
