@@ -25,6 +25,7 @@ protected Q_SLOTS:
 private Q_SLOTS:
     void geometry_data();
     void geometry();
+    void largeContent();
     void resolution_data();
     void resolution();
     void dialogFrame_data();
@@ -73,7 +74,9 @@ void tst_Placement::geometry_data()
     row("line", 100, 11, 25);
     row("line and a half", 150, 17, 37);
     row("wide", 1000, 112, 250);
-    row("beyond what window systems bear", std::numeric_limits<int>::max(), 32767, 32767);
+    const QPoint most(std::numeric_limits<int>::max(), std::numeric_limits<int>::max());
+    QTest::newRow("larger than any dialog") << most << QSize(most.x(), most.y()) << QPoint(32767, 32767)
+                                            << QSize(8192, 8192);
     QTest::newRow("x is zero") << QPoint(0, 50) << QSize(100, 100) << QPoint(0, 0) << QSize(11, 25);
     QTest::newRow("y is negative") << QPoint(50, -1) << QSize(100, 100) << QPoint(0, 0) << QSize(11, 25);
     // Without a size of its own, the toolkit chooses: -1 here.
@@ -94,6 +97,20 @@ void tst_Placement::geometry()
     };
     QCOMPARE(widget->maximumSize(), orElse(QWIDGETSIZE_MAX));
     QCOMPARE(widget->minimumSize(), orElse(0));
+}
+
+/// A style paints these into memory as a whole. Without a size of their own, they are as large as their content.
+void tst_Placement::largeContent()
+{
+    const QByteArray longText(1000000, 'W');
+    for (const int id : {ZelGUIButtonAdd(m_dialog, 1, 1, 0, 0, longText.constData(), nullptr),
+                         ZelGUIOptionMenuAdd(m_dialog, 1, 1, 0, 0, longText.constData(), nullptr)})
+        QCOMPARE(object<QWidget>(id)->sizeHint().width(), 8192);
+    const int menu = ZelGUIMenuAdd(ZelGUIMenuBarAdd(m_dialog), "Menu");
+    QVERIFY(ZelGUIButtonAdd(menu, 10000000, 10000000, 10000000, 10000000, "Far", nullptr) > 0);
+    ZelGUISetVisibility(menu, 1);
+    QVERIFY(QRect(0, 0, 8192, 8192).contains(QRect(QPoint(), object<QWidget>(menu)->size())));
+    ZelGUISetVisibility(menu, 0);
 }
 
 void tst_Placement::resolution_data()

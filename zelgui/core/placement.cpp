@@ -17,9 +17,10 @@ namespace orvane::zelgui {
 
 namespace {
 
-/// Beyond these, window systems and the toolkit's own "no limit" value misbehave.
-constexpr double kLargestPixels = 32767;
-constexpr double kLargestDialogPixels = 8192;
+/// No dialog is larger, so nothing beyond can be seen. A style would paint larger buttons into pictures of gigabytes.
+constexpr int kLargestSize = 8192;
+/// Beyond this, window systems and the toolkit's own "no limit" value misbehave.
+constexpr int kLargestPosition = 32767;
 
 /// Horizontal over vertical resolution. A host that reports nonsense gets square pixels.
 double resolutionRatio()
@@ -37,28 +38,31 @@ double resolutionRatio()
 class PixelScale
 {
 public:
-    PixelScale(const QWidget &widget, double largest)
-        : m_fontHeight(widget.fontMetrics().height()), m_ratio(resolutionRatio()), m_largest(largest)
+    explicit PixelScale(const QWidget &widget) : m_fontHeight(widget.fontMetrics().height()), m_ratio(resolutionRatio())
     {}
 
-    int across(int units) const { return toPixels(units / 100.0 * m_fontHeight * m_ratio * 0.45); }
-    int down(int units) const { return toPixels(units / 100.0 * m_fontHeight); }
+    int across(int units, int largest) const
+    {
+        return toPixels(units / 100.0 * m_fontHeight * m_ratio * 0.45, largest);
+    }
+    int down(int units, int largest) const { return toPixels(units / 100.0 * m_fontHeight, largest); }
 
 private:
-    int toPixels(double pixels) const { return static_cast<int>(std::min(std::max(0.0, pixels + 0.499), m_largest)); }
+    static int toPixels(double pixels, int largest)
+    {
+        return static_cast<int>(std::min<double>(std::max(0.0, pixels + 0.499), largest));
+    }
 
     double m_fontHeight;
     double m_ratio;
-    double m_largest;
 };
 
-void placeUpTo(double largest, QWidget &widget, int x, int y, int width, int height)
+void placeOnly(QWidget &widget, int x, int y, int width, int height)
 {
-    const PixelScale scale(widget, largest);
-    const QPoint position(scale.across(x), scale.down(y));
-    const QSize size(scale.across(width), scale.down(height));
+    const PixelScale scale(widget);
+    const QSize size(scale.across(width, kLargestSize), scale.down(height, kLargestSize));
     if (x > 0 && y > 0)
-        widget.move(position);
+        widget.move(scale.across(x, kLargestPosition), scale.down(y, kLargestPosition));
 
     // Fixing both dimensions at once spares the first paint a good part of its time.
     if (width > 0 && height > 0)
@@ -73,23 +77,28 @@ void placeUpTo(double largest, QWidget &widget, int x, int y, int width, int hei
 
 void placeWidget(QWidget *widget, int x, int y, int width, int height)
 {
-    placeUpTo(kLargestPixels, *widget, x, y, width, height);
+    placeOnly(*widget, x, y, width, height);
     widget->setFocusPolicy(Qt::StrongFocus);
 }
 
 void placeWidget(QLabel *label, int x, int y, int width, int height)
 {
-    placeUpTo(kLargestPixels, *label, x, y, width, height);
+    placeOnly(*label, x, y, width, height);
 }
 
 void placeWidget(QDialog *dialog, int x, int y, int width, int height)
 {
-    placeUpTo(kLargestDialogPixels, *dialog, x, y, width, height);
+    placeOnly(*dialog, x, y, width, height);
 }
 
 void limitWindow(QWidget &window)
 {
-    window.setMaximumSize(static_cast<int>(kLargestDialogPixels), static_cast<int>(kLargestDialogPixels));
+    window.setMaximumSize(kLargestSize, kLargestSize);
+}
+
+QSize limitedHint(const QSize &hint)
+{
+    return hint.boundedTo(QSize(kLargestSize, kLargestSize));
 }
 
 void allowBarsByRoom(QAbstractScrollArea &area)

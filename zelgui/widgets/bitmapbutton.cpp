@@ -3,7 +3,6 @@
 
 #include "core/callback.h"
 #include "core/entrypoint.h"
-#include "core/hugewidget.h"
 #include "core/placement.h"
 
 #include <QIcon>
@@ -43,12 +42,6 @@ ZelGUIBitmapButtonAbstract::ZelGUIBitmapButtonAbstract(QWidget *parent, int x, i
         return;
     setIcon(QIcon(QPixmap::fromImage(image)));
     setIconSize(image.size());
-}
-
-void ZelGUIBitmapButtonAbstract::paintEvent(QPaintEvent *event)
-{
-    if (!paintIfHuge(*this))
-        QPushButton::paintEvent(event);
 }
 
 ZelGUIBitmapButton::ZelGUIBitmapButton(QWidget *parent, int x, int y, int width, int height, const Bitmap &bitmap,

@@ -27,8 +27,6 @@ class ZelGUIBitmapButtonAbstract : public QPushButton
 protected:
     /// Position and size are in font units. The bitmap is copied; without data or size there is no picture.
     ZelGUIBitmapButtonAbstract(QWidget *parent, int x, int y, int width, int height, const Bitmap &bitmap);
-
-    void paintEvent(QPaintEvent *event) override;
 };
 
 /// Reports each click.

@@ -3,7 +3,6 @@
 
 #include "core/callback.h"
 #include "core/entrypoint.h"
-#include "core/hugewidget.h"
 #include "core/placement.h"
 #include "core/text.h"
 
@@ -58,12 +57,6 @@ ZelGUIButton::ZelGUIButton(QWidget *parent, int x, int y, int width, int height,
     connect(this, &QPushButton::clicked, this, &ZelGUIButton::buttonClicked);
     setDefault(false);
     setAutoDefault(false);
-}
-
-void ZelGUIButton::paintEvent(QPaintEvent *event)
-{
-    if (!paintIfHuge(*this))
-        QPushButton::paintEvent(event);
 }
 
 void ZelGUIButton::buttonClicked()

@@ -2,6 +2,8 @@
 #ifndef ZELGUI_WIDGETS_BUTTON_H
 #define ZELGUI_WIDGETS_BUTTON_H
 
+#include "core/placement.h"
+
 #include <zelgui/zelgui.h>
 
 #include <QPushButton>
@@ -17,8 +19,7 @@ public:
     /// Position and size are in font units; the button becomes 1.1 times as high.
     ZelGUIButton(QWidget *parent, int x, int y, int width, int height, const char *label, ZelGUIVoidCallback callback);
 
-protected:
-    void paintEvent(QPaintEvent *event) override;
+    QSize sizeHint() const override { return limitedHint(QPushButton::sizeHint()); }
 
 private Q_SLOTS:
     void buttonClicked();

@@ -3,7 +3,6 @@
 
 #include "core/callback.h"
 #include "core/entrypoint.h"
-#include "core/hugewidget.h"
 #include "core/placement.h"
 #include "core/text.h"
 
@@ -43,12 +42,6 @@ ZelGUIOptionMenu::ZelGUIOptionMenu(QWidget *parent, int x, int y, int width, int
     addItems(splitItems(itemList));
     setCurrentIndex(0);
     connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &ZelGUIOptionMenu::onCurrentIndexChanged);
-}
-
-void ZelGUIOptionMenu::paintEvent(QPaintEvent *event)
-{
-    if (!paintIfHuge(*this))
-        QComboBox::paintEvent(event);
 }
 
 void ZelGUIOptionMenu::onCurrentIndexChanged(int index)

@@ -2,6 +2,8 @@
 #ifndef ZELGUI_WIDGETS_OPTIONMENU_H
 #define ZELGUI_WIDGETS_OPTIONMENU_H
 
+#include "core/placement.h"
+
 #include <zelgui/zelgui.h>
 
 #include <QComboBox>
@@ -18,8 +20,7 @@ public:
     ZelGUIOptionMenu(QWidget *parent, int x, int y, int width, int height, const char *itemList,
                      ZelGUIIntCallback callback);
 
-protected:
-    void paintEvent(QPaintEvent *event) override;
+    QSize sizeHint() const override { return limitedHint(QComboBox::sizeHint()); }
 
 private Q_SLOTS:
     void onCurrentIndexChanged(int index);

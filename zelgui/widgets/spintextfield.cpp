@@ -3,7 +3,6 @@
 
 #include "core/callback.h"
 #include "core/entrypoint.h"
-#include "core/hugewidget.h"
 #include "core/placement.h"
 #include "widgets/fieldvalue.h"
 #include "widgets/textfield.h"
@@ -49,12 +48,6 @@ void ZelGUISpinTextField::keyPressEvent(QKeyEvent *event)
     QAbstractSpinBox::keyPressEvent(event);
     if (guard)
         m_textField->keepReturnIfRejected(event);
-}
-
-void ZelGUISpinTextField::paintEvent(QPaintEvent *event)
-{
-    if (!paintIfHuge(*this))
-        QAbstractSpinBox::paintEvent(event);
 }
 
 } // namespace orvane::zelgui

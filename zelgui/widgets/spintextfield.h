@@ -28,7 +28,6 @@ protected:
     /// Both ways, whatever the text.
     StepEnabled stepEnabled() const override { return StepUpEnabled | StepDownEnabled; }
     void keyPressEvent(QKeyEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
 
 private:
     ZelGUIVoidCallback m_upCallback;
