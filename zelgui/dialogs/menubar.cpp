@@ -28,15 +28,39 @@ public:
     void setGeometry(const QRect &rect) override
     {
         QVBoxLayout::setGeometry(rect);
-        const auto widgets = parentWidget()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-        for (QWidget *const widget : widgets) {
-            if (widget->isVisible() || widget->isWindow() || widget == menuBar() ||
-                widget->testAttribute(Qt::WA_Resized))
+        const QObjectList &children = parentWidget()->children();
+        const int count = int(children.size());
+        // A dialog that appears shows all its children. Later on they are shown one at a time, mostly in their order:
+        // to look for that one from the start each time would cost the square of their number.
+        const bool isDialogVisible = parentWidget()->isVisible();
+        for (int i = 0; i < count; ++i) {
+            const int place = isDialogVisible ? (m_lastShown + i) % count : i;
+            auto *const widget = qobject_cast<QWidget *>(children[place]);
+            if (!widget || !isAboutToShow(*widget))
                 continue;
-            widget->adjustSize();
-            widget->setAttribute(Qt::WA_Resized, false);
+            giveOwnSize(*widget);
+            if (isDialogVisible) {
+                m_lastShown = place;
+                break;
+            }
         }
     }
+
+private:
+    bool isAboutToShow(const QWidget &widget) const
+    {
+        return !widget.isHidden() && !widget.isVisible() && !widget.isWindow() && &widget != menuBar();
+    }
+
+    static void giveOwnSize(QWidget &widget)
+    {
+        if (widget.testAttribute(Qt::WA_Resized))
+            return;
+        widget.adjustSize();
+        widget.setAttribute(Qt::WA_Resized, false);
+    }
+
+    int m_lastShown = 0;
 };
 
 QLayout *layoutOf(QDialog &dialog)
