@@ -73,7 +73,7 @@ void tst_Containers::formShowsOnePage()
     QVERIFY(field->hasFocus());
     ZelGUIFormSetCurrentPage(pages[0]);
     QVERIFY(!field->hasFocus());
-    QCOMPARE(log(), QStringList({"Init"}));
+    QCOMPARE(log(), QStringList({"Init", "Text "}));
 }
 
 void tst_Containers::tabReports()

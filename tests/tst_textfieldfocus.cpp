@@ -43,7 +43,6 @@ private Q_SLOTS:
     void popups();
     void otherWindow();
     void rejectedTextBeforeOtherWindow();
-    void endedPopupStaysDuringTheReport();
 
 private:
     /// Opens the dialog with the field, which has the focus and the text "bad".
@@ -443,7 +442,7 @@ void tst_TextFieldFocus::otherWindow()
 {
     open();
     QVERIFY(activate(mainWindow()));
-    QCOMPARE(log(), QStringList({"Text bad"}));
+    QTRY_COMPARE(log(), QStringList({"Text bad"}));
     QVERIFY(activate(m_window));
     QVERIFY(hasFocus());
     QTest::keyClick(m_widget, Qt::Key_Tab);
@@ -459,13 +458,14 @@ void tst_TextFieldFocus::rejectedTextBeforeOtherWindow()
     const auto leave = [this] {
         log().clear();
         QVERIFY(activate(mainWindow()));
+        QCoreApplication::processEvents();
     };
     leave();
     QCOMPARE(log(), QStringList());
     QVERIFY(activate(m_window));
     QTest::keyClicks(m_widget, "x");
     leave();
-    QCOMPARE(log(), QStringList({"Text x"}));
+    QTRY_COMPARE(log(), QStringList({"Text x"}));
 
     open();
     QTest::keyClick(m_widget, Qt::Key_Return);
@@ -474,46 +474,7 @@ void tst_TextFieldFocus::rejectedTextBeforeOtherWindow()
     ZelGUIDialogLaunch(m_dialog);
     QVERIFY(waitUntilActive(m_window));
     leave();
-    QCOMPARE(log(), QStringList({"Text bad"}));
-}
-
-// The toolkit still holds on to a popup menu when it tells a field that another window becomes the active one; what the
-// callback makes itself is its own.
-void tst_TextFieldFocus::endedPopupStaysDuringTheReport()
-{
-    QPointer<QWidget> popup;
-    QPointer<QWidget> inside;
-    bool isPopupThere = false;
-    bool isInsideThere = true;
-    action(Text) = [&] {
-        const auto runLoop = [](const std::function<void()> &step) {
-            QEventLoop loop;
-            QTimer::singleShot(0, &loop, [&] {
-                step();
-                loop.quit();
-            });
-            loop.exec();
-        };
-        inside = new QWidget(nullptr, Qt::Popup);
-        runLoop([&] {
-            popup->deleteLater();
-            inside->deleteLater();
-        });
-        runLoop([] {});
-        isPopupThere = popup;
-        isInsideThere = inside;
-    };
-    open();
-    popup = new QWidget(nullptr, Qt::Popup);
-    QTest::keyClick(m_widget, Qt::Key_Tab);
-    QVERIFY(!isPopupThere);
-
-    popup = new QWidget(nullptr, Qt::Popup);
-    m_widget->setFocus();
-    QVERIFY(activate(mainWindow()));
-    QVERIFY(isPopupThere);
-    QVERIFY(!isInsideThere);
-    QTRY_VERIFY(!popup);
+    QTRY_COMPARE(log(), QStringList({"Text bad"}));
 }
 
 ZELTEST_SPIN_MAIN(tst_TextFieldFocus)

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStyleOptionSpinBox>
@@ -73,6 +74,20 @@ const Gesture kDrag = {"dragged", [](QWidget *scale) {
                            QTest::mousePress(scale, Qt::LeftButton, Qt::NoModifier, handle);
                            ZelTest::dragTo(scale, QPoint(scale->width() / 2, scale->height() / 2));
                        }};
+
+/// The focus goes to another window: a dialog inside that of the field, or the main window.
+Gesture otherWindow(bool isInside)
+{
+    return {isInside ? "dialog inside" : "main window", [isInside](QWidget *field) {
+                QWidget *const window = isInside ? new QDialog(field->window()) : field->window()->parentWidget();
+                window->show();
+                window->activateWindow();
+                const auto reports = log().size();
+                QElapsedTimer sinceChange;
+                for (sinceChange.start(); log().size() == reports && sinceChange.elapsed() < 1000;)
+                    QCoreApplication::processEvents();
+            }};
+}
 
 Gesture chooseInPopup(const char *name, const Gesture &choose)
 {
@@ -251,7 +266,8 @@ void addTextTriggers(QVector<Trigger> &all)
                                    field->window()->findChild<QWidget *>(QString::number(id))->show();
                                    QTest::keyClick(field, Qt::Key_T, Qt::AltModifier);
                                }};
-    const QVector<Gesture> ends = {kReturn, tabKey, otherClicked, menuClicked, menuKey, toggleKey};
+    const QVector<Gesture> ends = {kReturn, tabKey,    otherClicked,       menuClicked,
+                                   menuKey, toggleKey, otherWindow(false), otherWindow(true)};
     addWidgetTriggers(all, "text field", Text, addField, ends);
     addWidgetTriggers(all, "text field on a page", Text,
                       [=](int dialog) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/entrypoint.h"
 #include "core/placement.h"
+#include "widgets/focusloss.h"
 
 #include <zelgui/zelgui.h>
 
@@ -16,8 +17,12 @@ void showPage(QWidget &page)
     // A tab widget keeps its pages in a stack too, of its own.
     if (!form || !ZelGUIWidgetRepository::instance()->isRegistered(form) || form->indexOf(&page) < 0)
         return;
-    const CallbackSuppressor suppressor;
-    form->setCurrentWidget(&page);
+    {
+        const CallbackSuppressor suppressor;
+        form->setCurrentWidget(&page);
+    }
+    // Of a field on the page that was left.
+    LateReport::makeAll();
 }
 
 } // namespace

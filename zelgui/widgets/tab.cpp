@@ -5,6 +5,7 @@
 #include "core/entrypoint.h"
 #include "core/placement.h"
 #include "core/text.h"
+#include "widgets/focusloss.h"
 
 #include <QTabBar>
 
@@ -46,7 +47,10 @@ using namespace orvane::zelgui;
 int ZelGUITabAdd(int parentId, int x, int y, int width, int height, ZelGUIIntCallback pageActivated,
                  ZelGUIIntCallback pageDeactivated)
 {
-    return addWidgetTo<ZelGUITab>(parentId, x, y, width, height, pageActivated, pageDeactivated);
+    return addTo(parentId, [=](QWidget &parent) {
+        const CallbackSuppressor suppressor;
+        return new ZelGUITab(&parent, x, y, width, height, pageActivated, pageDeactivated);
+    });
 }
 
 int ZelGUITabAddPage(int tabId, const char *label)
@@ -67,7 +71,11 @@ void ZelGUITabSetCurrentPage(int tabId, int pageId)
         const int index = tab.indexOf(ZelGUIWidgetRepository::instance()->widgetAs<QWidget>(pageId));
         if (index < 0)
             return;
-        const CallbackSuppressor suppressor;
-        tab.setCurrentIndex(index);
+        {
+            const CallbackSuppressor suppressor;
+            tab.setCurrentIndex(index);
+        }
+        // Of a field on the page that was left.
+        LateReport::makeAll();
     });
 }

@@ -2,25 +2,17 @@
 #include "widgets/textfield.h"
 
 #include "core/callback.h"
-#include "core/endedpopups.h"
 #include "core/entrypoint.h"
 #include "core/placement.h"
 #include "core/text.h"
 #include "util/setstring.h"
 #include "widgets/fieldvalue.h"
+#include "widgets/focusloss.h"
 
-#include <QAbstractButton>
 #include <QApplication>
-#include <QDialogButtonBox>
 #include <QFocusEvent>
 #include <QMenuBar>
 #include <QScopedValueRollback>
-
-#include <algorithm>
-#include <functional>
-#include <iterator>
-#include <optional>
-#include <utility>
 
 namespace orvane::zelgui {
 
@@ -28,114 +20,6 @@ namespace {
 
 /// While one field takes the focus back, the one that was about to get it has nothing to report.
 bool isFocusTakenBack = false;
-
-bool leavesDialogAsIs(QAbstractButton *button)
-{
-    auto *const box = qobject_cast<QDialogButtonBox *>(button->parentWidget());
-    return box && box->buttonRole(button) == QDialogButtonBox::RejectRole;
-}
-
-/// Keeps the press of the mouse that is about to be delivered from the widget that it was meant for.
-class StalePress : public QObject
-{
-public:
-    StalePress() : QObject(qApp)
-    {
-        qApp->installEventFilter(this);
-        deleteLater();
-    }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        return event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
-    }
-};
-
-/// Watches a press of the mouse that takes the focus from a field, for a callback that shows a message meanwhile. The
-/// release then goes to the message, and what got the press only now would stay pressed: a button, an arrow that steps
-/// for ever, a list that opens. Cancel and Close must be reached with one click even if every message says that the
-/// field can't be left, so their click is completed.
-class InterruptedClick
-{
-public:
-    explicit InterruptedClick(Qt::FocusReason reason)
-        : m_button(reason == Qt::MouseFocusReason ? qobject_cast<QAbstractButton *>(QApplication::focusWidget())
-                                                  : nullptr),
-          m_pressed(reason == Qt::MouseFocusReason ? QGuiApplication::mouseButtons() : Qt::NoButton)
-    {}
-
-    ~InterruptedClick()
-    {
-        if ((QGuiApplication::mouseButtons() & m_pressed) == m_pressed)
-            return;
-        new StalePress;
-        if (!m_button || !leavesDialogAsIs(m_button))
-            return;
-        const auto click = [button = m_button.data()] {
-            if (button->isVisible())
-                button->click();
-        };
-        QMetaObject::invokeMethod(m_button, click, Qt::QueuedConnection);
-    }
-    InterruptedClick(const InterruptedClick &) = delete;
-    InterruptedClick &operator=(const InterruptedClick &) = delete;
-
-private:
-    QPointer<QAbstractButton> m_button;
-    Qt::MouseButtons m_pressed;
-};
-
-/// Reports, when a popup is open, that it has taken the focus. The toolkit does not survive that a popup is closed
-/// while it opens, as it is by a message from a callback; or it waits for the popup for ever. A key or a press of the
-/// mouse that comes first waits for the report, and is lost if it was for a popup that is gone then.
-class ReportOncePopupIsOpen : public QObject
-{
-public:
-    ReportOncePopupIsOpen(QObject *parent, std::function<void()> report) : QObject(parent), m_report(std::move(report))
-    {
-        qApp->installEventFilter(this);
-        const auto act = [this] { reportOnce(); };
-        QMetaObject::invokeMethod(this, act, Qt::QueuedConnection);
-    }
-    bool eventFilter(QObject *receiver, QEvent *event) override
-    {
-        if (!isInput(event->type()))
-            return false;
-        if (m_isInputLost)
-            return true;
-        const QPointer<ReportOncePopupIsOpen> guard(this);
-        const QPointer<QObject> receiverGuard(receiver);
-        const QPointer<QWidget> popup = QApplication::activePopupWidget();
-        const bool isForPopup = popup;
-        reportOnce();
-        const bool isLost = isForPopup && (!popup || popup != QApplication::activePopupWidget());
-        if (guard)
-            m_isInputLost = isLost;
-        return isLost || !receiverGuard;
-    }
-
-private:
-    static bool isInput(QEvent::Type type)
-    {
-        // Not QEvent::Close: a popup that is being closed can't be closed again, which a message would wait for.
-        static constexpr QEvent::Type kTypes[] = {
-            QEvent::ShortcutOverride,   QEvent::KeyPress, QEvent::KeyRelease,  QEvent::MouseButtonPress,
-            QEvent::MouseButtonRelease, QEvent::Wheel,    QEvent::ContextMenu, QEvent::MouseButtonDblClick,
-        };
-        return std::find(std::begin(kTypes), std::end(kTypes), type) != std::end(kTypes);
-    }
-    void reportOnce()
-    {
-        if (!m_report)
-            return;
-        deleteLater();
-        // Anything may happen in the callback, even to this object.
-        std::exchange(m_report, nullptr)();
-    }
-
-    std::function<void()> m_report;
-    /// Until the next pass of the event loop.
-    bool m_isInputLost = false;
-};
 
 } // namespace
 
@@ -227,19 +111,16 @@ void ZelGUITextField::focusOutEvent(QFocusEvent *event)
     QLineEdit::focusOutEvent(event);
     if (!isToReport)
         return;
-    if (reason == Qt::PopupFocusReason) {
-        new ReportOncePopupIsOpen(this, [this] { reportToOpenPopup(); });
+    if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason ||
+        ZelGUIWidgetRepository::instance()->callbacksSuppressed()) {
+        new LateReport(this, [this] { reportLate(); });
         return;
     }
     const InterruptedClick click(reason);
-    // The toolkit is just making another window active, and goes on with a popup that has ended meanwhile.
-    std::optional<EndedPopups> endedPopups;
-    if (reason == Qt::ActiveWindowFocusReason)
-        endedPopups.emplace();
     editingFinished();
 }
 
-void ZelGUITextField::reportToOpenPopup()
+void ZelGUITextField::reportLate()
 {
     // With its dialog, the field is simply gone.
     if (window()->isHidden())
@@ -262,6 +143,15 @@ void ZelGUITextField::keyPressEvent(QKeyEvent *event)
     QLineEdit::keyPressEvent(event);
     if (guard)
         keepReturnIfRejected(event);
+}
+
+void ZelGUITextField::dropEvent(QDropEvent *event)
+{
+    const QString before = text();
+    QLineEdit::dropEvent(event);
+    // With the focus, the field will report when it loses it.
+    if (!hasFocus() && text() != before)
+        new LateReport(this, [this] { reportLate(); });
 }
 
 void ZelGUITextField::keepReturnIfRejected(QKeyEvent *event)

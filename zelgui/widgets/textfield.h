@@ -14,6 +14,8 @@ namespace orvane::zelgui {
 /// say so, it keeps silent about a text that was not changed since, even if the add-on has rejected it, and about
 /// Return in a spin box; so the field watches its own focus, and reports by returnPressed().
 ///
+/// What is dropped into a field without the focus is reported as well.
+///
 /// A rejected text is selected and gets the focus back. It still is what the field holds: only the user changes it.
 class ZelGUITextField : public QLineEdit
 {
@@ -33,6 +35,7 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private Q_SLOTS:
     void editingFinished();
@@ -42,7 +45,7 @@ private:
     void watchCorrection();
     bool canHaveFocus() const;
     bool isLossToReport(const QFocusEvent &event) const;
-    void reportToOpenPopup();
+    void reportLate();
 
     ZelGUITextCallback m_callback;
     /// Whether the focus came since the last loss: opening a combo box takes it from the field twice.
