@@ -21,10 +21,18 @@ ZelGUIWidgetRepository *ZelGUIWidgetRepository::create()
 }
 
 ZelGUIWidgetRepository::ZelGUIWidgetRepository()
-    : m_guiAvailable(!ZelUtilMacroIsBatchModeActive() && ui::findMainWindow(true))
+    : m_guiAvailable(QCoreApplication::instance() && !ZelUtilMacroIsBatchModeActive() && ui::findMainWindow(true))
 {
-    if (m_guiAvailable)
-        connect(ui::findMainWindow(false), &QObject::destroyed, this, &ZelGUIWidgetRepository::onMainWindowDestroyed);
+    if (!m_guiAvailable)
+        return;
+    connect(ui::findMainWindow(false), &QObject::destroyed, this, &ZelGUIWidgetRepository::onMainWindowDestroyed);
+    // exit() may be called in a callback, where the application object outlives it, but not all that the toolkit needs.
+    // First of all it destroys what belongs to the thread, before static objects and what was given to atexit().
+    struct EndOfThread
+    {
+        ~EndOfThread() { s_instance->markGuiUnavailable(); }
+    };
+    static thread_local const EndOfThread end;
 }
 
 int ZelGUIWidgetRepository::addWidget(QObject *object)

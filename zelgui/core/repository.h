@@ -4,6 +4,7 @@
 
 #include "core/departure.h"
 
+#include <QCoreApplication>
 #include <QObject>
 #include <QPointer>
 
@@ -25,8 +26,9 @@ class ZelGUIWidgetRepository : public QObject
 public:
     static ZelGUIWidgetRepository *instance() { return s_instance ? s_instance : create(); }
 
-    /// Decided once, when the repository is made; afterwards a GUI can only be lost.
-    bool isGuiAvailable() const { return m_guiAvailable; }
+    /// Decided once, when the repository is made; afterwards a GUI can only be lost. Static destructors of add-ons may
+    /// ask when the application object is gone, even if nobody has deleted the main window.
+    bool isGuiAvailable() const { return m_guiAvailable && QCoreApplication::instance(); }
     void markGuiUnavailable() { m_guiAvailable = false; }
 
     /// Registers an object; its identifier also becomes its object name.

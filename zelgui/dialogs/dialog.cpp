@@ -29,6 +29,16 @@ constexpr Qt::WindowFlags kDialogWindowFlags =
 constexpr int kBoxMargin = 6;
 constexpr int kFrameWidth = 8;
 
+/// A longer one would make a request to an X server that ends the connection, and with it the host.
+constexpr int kLongestTitle = 32767;
+
+QString windowTitle(const char *title)
+{
+    const QString text = fromUtf8(title).left(kLongestTitle);
+    const bool endsInsideCharacter = !text.isEmpty() && text.back().isHighSurrogate();
+    return endsInsideCharacter ? text.chopped(1) : text;
+}
+
 } // namespace
 
 /// Marks the time in which a drop has to wait. The request survives the scope, for its owner to read.
@@ -117,9 +127,15 @@ void ZelGUIDialog::addExtraButton(const QString &label, bool isDefault, ZelGUIVo
 
 void ZelGUIDialog::launch()
 {
+    if (m_inInit)
+        return;
     const QPointer<ZelGUIDialog> guard(this);
+    m_inInit = true;
     report(this, m_callbacks.init);
-    if (!guard || isDeparting(this))
+    if (!guard)
+        return;
+    m_inInit = false;
+    if (isDeparting(this))
         return;
     if (m_inCallback) {
         m_pendingRequest = PendingRequest::Launch;
@@ -222,7 +238,7 @@ int createDialog(int parentId, int width, int height, const char *title, const D
         auto *const repository = ZelGUIWidgetRepository::instance();
         QWidget *const parent =
             parentId == kMainWindowParentId ? ui::findMainWindow(false) : repository->widgetAs<QWidget>(parentId);
-        return parent ? repository->addWidget(new ZelGUIDialog(parent, width, height, fromUtf8(title), callbacks))
+        return parent ? repository->addWidget(new ZelGUIDialog(parent, width, height, windowTitle(title), callbacks))
                       : kInvalidWidgetId;
     });
 }
@@ -275,7 +291,7 @@ ZelBoolean ZelGUIDialogIsUp(int dialogId)
 {
     return behindWall(ZelBoolean{0}, [dialogId]() -> ZelBoolean {
         // Looked at before the repository, which would decide on the GUI for good if this were the first call.
-        if (ZelUtilMacroIsBatchModeActive() || !orvane::ui::findMainWindow(false))
+        if (!QCoreApplication::instance() || ZelUtilMacroIsBatchModeActive() || !orvane::ui::findMainWindow(false))
             return 0;
         return withWidget<ZelGUIDialog>(dialogId, ZelBoolean{0},
                                         [](ZelGUIDialog &dialog) -> ZelBoolean { return dialog.isVisible(); });
@@ -284,7 +300,7 @@ ZelBoolean ZelGUIDialogIsUp(int dialogId)
 
 void ZelGUIDialogSetTitle(int dialogId, const char *title)
 {
-    withWidget<ZelGUIDialog>(dialogId, [&](ZelGUIDialog &dialog) { dialog.setWindowTitle(fromUtf8(title)); });
+    withWidget<ZelGUIDialog>(dialogId, [&](ZelGUIDialog &dialog) { dialog.setWindowTitle(windowTitle(title)); });
 }
 
 void ZelGUIDialogSetPosition(int, int, int)

@@ -41,7 +41,7 @@ public:
     void addExtraButton(const QString &label, bool isDefault, ZelGUIVoidCallback callback);
 
     /// Calls the init callback and shows the dialog; if it is modal, returns when it is hidden again. By then, it may
-    /// not exist any more.
+    /// not exist any more. Inside the init callback a launch of the same dialog does nothing: it is under way.
     void launch();
     /// Hides the dialog, now or after the callback that is to be waited for.
     void drop();
@@ -74,6 +74,8 @@ private:
     /// In pixels: of the content, then with the button strip.
     int m_width = 0;
     int m_height = 0;
+    /// Whether a launch has come as far as the init callback.
+    bool m_inInit = false;
     bool m_inCallback = false;
     PendingRequest m_pendingRequest = PendingRequest::None;
     bool m_inExec = false;
