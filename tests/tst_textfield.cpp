@@ -37,6 +37,7 @@ private Q_SLOTS:
     void doubles_data();
     void doubles();
     void setDouble();
+    void pastedNullCharacter();
     void validateDouble_data();
     void validateDouble();
 
@@ -97,10 +98,23 @@ void tst_TextField::doubles()
 
 void tst_TextField::setDouble()
 {
-    ZelGUITextFieldSetDouble(m_field, 0.1, "%.3f");
-    QCOMPARE(taken(ZelGUITextFieldGetString(m_field)), QByteArray("0.100"));
-    ZelGUITextFieldSetDouble(m_field, 0.1, "%s");
-    QCOMPARE(taken(ZelGUITextFieldGetString(m_field)), QByteArray("0.100"));
+    for (const char *const format : {"%.3f", "%'.3f", "%s"}) {
+        ZelGUITextFieldSetDouble(m_field, 0.1, format);
+        QCOMPARE(taken(ZelGUITextFieldGetString(m_field)), QByteArray("0.100"));
+        ZelGUITextFieldSetString(m_field, QByteArray(format) == "%.3f" ? "?" : "0.100");
+    }
+}
+
+/// To an add-on, a null character would be the end.
+void tst_TextField::pastedNullCharacter()
+{
+    auto *const edit = m_isSpin ? object<QWidget>(m_field)->findChild<QLineEdit *>() : object<QLineEdit>(m_field);
+    edit->insert(QString(QLatin1String("a\0b", 3)));
+    QTest::keyClick(object<QWidget>(m_field), Qt::Key_Return);
+    QCOMPARE(taken(ZelGUITextFieldGetString(m_field)), QByteArray("a\xEF\xBF\xBD"
+                                                                  "b"));
+    QCOMPARE(log(), QStringList(QString::fromUtf8("Text a\xEF\xBF\xBD"
+                                                  "b")));
 }
 
 void tst_TextField::validateDouble_data()

@@ -4,6 +4,7 @@
 
 #include "core/departure.h"
 #include "core/repository.h"
+#include "core/text.h"
 
 #include <zelgui/zelgui.h>
 
@@ -52,7 +53,7 @@ inline void reportChange(QObject *sender, ZelGUIIntCallback callback, int value)
 inline bool askWhetherAccepted(QObject *sender, ZelGUITextCallback callback, const QString &text) noexcept
 {
     int answer = 1;
-    const bool isAnswered = callback && callOut(sender, [&] { answer = callback(text.toUtf8().constData()); });
+    const bool isAnswered = callback && callOut(sender, [&] { answer = callback(toUtf8(text).constData()); });
     return !isAnswered || answer != 0;
 }
 

@@ -33,8 +33,9 @@ QByteArray usableFormat(const char *format)
 {
     // The format is the add-on's, so whatever might make asprintf read an argument that isn't there has to be kept from
     // it. 'l' has no effect on a double, 'L' would read a longer one.
-    static const QRegularExpression pattern(
-        QStringLiteral(R"(\A[^%]*+(?:%%[^%]*+)*+%[-+ #0]*+(\d*+)(?:\.(\d*+))?l?[aefgAEFG][^%]*+(?:%%[^%]*+)*+\z)"));
+    // Never deleted, here and below: add-ons may still call while the process ends.
+    static const auto &pattern = *new QRegularExpression(
+        QStringLiteral(R"(\A[^%]*+(?:%%[^%]*+)*+%[-+ #0']*+(\d*+)(?:\.(\d*+))?l?[aefgAEFG][^%]*+(?:%%[^%]*+)*+\z)"));
     // Only ASCII has a meaning here, and Latin-1 keeps every other byte a character of its own.
     const QRegularExpressionMatch match = pattern.match(fromLatin1(format));
     if (!match.hasMatch() || isFormatNumberTooLong(match.captured(1)) || isFormatNumberTooLong(match.captured(2)))
@@ -104,16 +105,23 @@ QString formatDouble(const char *format, double value)
         QByteArray given;
         QByteArray usable;
     };
-    // Never deleted: add-ons may still call while the process ends.
     static Format &last = *new Format;
     if (last.given != format)
         last = Format{format, usableFormat(format)};
     return last.usable.isNull() ? QString() : QString::asprintf(last.usable.constData(), value);
 }
 
+QByteArray toUtf8(const QString &text)
+{
+    QByteArray utf8 = text.toUtf8();
+    if (utf8.contains('\0'))
+        utf8.replace('\0', "\xEF\xBF\xBD");
+    return utf8;
+}
+
 char *allocHostString(const QString &text)
 {
-    const QByteArray utf8 = text.toUtf8();
+    const QByteArray utf8 = toUtf8(text);
     const auto size = static_cast<std::size_t>(utf8.size()) + 1;
     char *const copy = ZelUtilStringAlloc(size, "ZelGUITextFieldGetStringQt");
     if (copy)

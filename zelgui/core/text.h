@@ -22,6 +22,9 @@ QString fromTrimmedLatin1(Characters text);
 /// UTF-8 text of an add-on, a byte order mark at its start included; null is empty.
 QString fromUtf8(const char *text);
 
+/// Text for an add-on. A null character, which users can paste, would end it early: U+FFFD stands in its place.
+QByteArray toUtf8(const QString &text);
+
 /// `value` written in a printf format of the add-on's. Null unless the format holds exactly one floating-point
 /// conversion, whose width and precision are at most 1000 and not taken from arguments.
 QString formatDouble(const char *format, double value);

@@ -38,8 +38,9 @@ std::optional<LgIndex> findLgIndex(const QString &typed)
     // Digits and blanks of every script match, though only ASCII digits convert: a text with others is no number,
     // rather than the number made of its ASCII digits alone.
     static const auto kOptions = QRegularExpression::UseUnicodePropertiesOption;
-    static const QRegularExpression kPlain(QStringLiteral(R"((\d+))"), kOptions);
-    static const QRegularExpression kOffset(QStringLiteral(R"(MX\s*-\s*(\d+))"), kOptions);
+    // Never deleted: add-ons may still call while the process ends.
+    static const auto &kPlain = *new QRegularExpression(QStringLiteral(R"((\d+))"), kOptions);
+    static const auto &kOffset = *new QRegularExpression(QStringLiteral(R"(MX\s*-\s*(\d+))"), kOptions);
 
     const QString text = typed.toUpper().trimmed();
     if (text == mx())

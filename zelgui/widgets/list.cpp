@@ -81,8 +81,9 @@ void setItems(QListWidget &list, const QStringList &texts)
 void selectAll(QListWidget &list)
 {
     const BulkChange change(list);
-    // Joining the new range to what was selected would cost the square of that, and nothing of it would remain.
-    list.clearSelection();
+    // Joining the new range to a selection of many ranges would cost the square of their number.
+    if (list.selectionModel()->selection().size() > kFewRanges)
+        list.clearSelection();
     list.selectionModel()->select(QItemSelection(indexAt(list, 1), indexAt(list, list.count())),
                                   QItemSelectionModel::Select);
 }

@@ -33,9 +33,15 @@ ZelGUIMenuToggleAction::ZelGUIMenuToggleAction(QMenu *menu, const QString &text,
 
 void ZelGUIMenuToggleAction::menuActionToggled(bool isChecked)
 {
+    if (m_isReporting)
+        return;
+    const QPointer<ZelGUIMenuToggleAction> guard(this);
+    m_isReporting = true;
     // Not reportChange(): menus are never silent.
     const int value = isChecked ? 1 : 0;
     report<const int *>(this, m_callback, &value);
+    if (guard)
+        m_isReporting = false;
 }
 
 namespace {

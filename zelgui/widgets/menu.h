@@ -32,7 +32,8 @@ private:
     ZelGUIVoidCallback m_callback;
 };
 
-/// An entry with a check mark, which reports every change of it, the add-on's own changes included.
+/// An entry with a check mark, which reports every change of it, the add-on's own changes included. Only what its own
+/// callback changes is not reported to it.
 class ZelGUIMenuToggleAction : public ZelGUIMenuActionAbstract
 {
     Q_OBJECT
@@ -45,6 +46,7 @@ private Q_SLOTS:
 
 private:
     ZelGUIIntCallback m_callback;
+    bool m_isReporting = false;
 };
 
 } // namespace orvane::zelgui

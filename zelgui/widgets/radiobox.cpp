@@ -48,12 +48,22 @@ ZelGUIRadioBox::ZelGUIRadioBox(QWidget *parent, int x, int y, int width, int hei
         addButton(button, ++above);
     }
     button(1)->setChecked(true);
+    connect(this, &QButtonGroup::idPressed, this, [this] { m_isPressed = true; });
+    connect(this, &QButtonGroup::idReleased, this, [this] { m_isPressed = false; });
+    connect(this, &QButtonGroup::idToggled, this, &ZelGUIRadioBox::onButtonToggled);
     connect(this, &QButtonGroup::idClicked, this, &ZelGUIRadioBox::onButtonClicked);
 }
 
 void ZelGUIRadioBox::onButtonClicked(int id)
 {
     reportChange(this, m_callback, id);
+}
+
+/// Assistive technology switches a button without a click.
+void ZelGUIRadioBox::onButtonToggled(int id, bool isChecked)
+{
+    if (isChecked && !m_isPressed)
+        reportChange(this, m_callback, id);
 }
 
 } // namespace orvane::zelgui

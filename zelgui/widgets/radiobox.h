@@ -25,9 +25,12 @@ public:
 
 private Q_SLOTS:
     void onButtonClicked(int id);
+    void onButtonToggled(int id, bool isChecked);
 
 private:
     ZelGUIIntCallback m_callback;
+    /// Whether a button is pressed, so that a click will follow.
+    bool m_isPressed = false;
 };
 
 } // namespace orvane::zelgui

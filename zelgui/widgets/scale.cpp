@@ -5,9 +5,13 @@
 #include "core/entrypoint.h"
 #include "core/placement.h"
 
+#include <QGuiApplication>
 #include <QLabel>
+#include <QMouseEvent>
 
+#include <algorithm>
 #include <limits>
+#include <vector>
 
 namespace orvane::zelgui {
 
@@ -31,7 +35,7 @@ ZelGUIScale::ZelGUIScale(QWidget *parent, int x, int y, int width, int height, i
     placeWidget(this, x, y, width, height);
     setTickInterval(1);
     addNumericDisplay();
-    report<const int *>(this, m_dragCallback, &minimum);
+    reportMade();
     showValue();
     connect(this, &QSlider::valueChanged, this, &ZelGUIScale::onValueChanged);
     connect(this, &QSlider::actionTriggered, this, &ZelGUIScale::onActionTriggered);
@@ -44,6 +48,19 @@ void ZelGUIScale::addNumericDisplay()
     m_numericDisplay->move(x(), y() - lineHeight);
     m_numericDisplay->setFixedSize(width(), lineHeight);
     m_numericDisplay->setAlignment(Qt::AlignHCenter);
+}
+
+void ZelGUIScale::reportMade()
+{
+    // Never deleted: add-ons may still call while the process ends.
+    static auto &running = *new std::vector<ZelGUIIntCallback>;
+    // A callback that makes another scale with itself would never come to an end.
+    if (std::find(running.begin(), running.end(), m_dragCallback) != running.end())
+        return;
+    running.push_back(m_dragCallback);
+    const int value = minimum();
+    report<const int *>(this, m_dragCallback, &value);
+    running.pop_back();
 }
 
 void ZelGUIScale::showValue()
@@ -70,6 +87,20 @@ void ZelGUIScale::onActionTriggered(int action)
     report<const int *>(this, m_dragCallback, &before);
     if (guard)
         showValue();
+}
+
+/// Steps on while the button of the mouse is held down in the groove. A message that a callback shows may have got the
+/// release; then the scale lets go of the mouse now.
+void ZelGUIScale::timerEvent(QTimerEvent *event)
+{
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+        QSlider::timerEvent(event);
+        return;
+    }
+    const QPoint center = rect().center();
+    QMouseEvent release(QEvent::MouseButtonRelease, center, mapToGlobal(center), Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    mouseReleaseEvent(&release);
 }
 
 } // namespace orvane::zelgui
@@ -106,6 +137,9 @@ void ZelGUIScaleSetLimits(int scaleId, int minimum, int maximum)
 
 void ZelGUIScaleShowNumericDisplay(int scaleId, ZelBoolean show)
 {
-    withWidget<ZelGUIScale>(scaleId,
-                            [show](const ZelGUIScale &scale) { scale.numericDisplay()->setVisible(show == 1); });
+    withWidget<ZelGUIScale>(scaleId, [show](const ZelGUIScale &scale) {
+        // A host may have deleted it.
+        if (scale.numericDisplay())
+            scale.numericDisplay()->setVisible(show == 1);
+    });
 }

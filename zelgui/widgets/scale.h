@@ -17,11 +17,15 @@ class ZelGUIScale : public QSlider
     Q_OBJECT
 
 public:
-    /// Position and size are in font units. Reports the minimum as the first step of a drag.
+    /// Position and size are in font units. Reports the minimum as the first step of a drag, unless that
+    /// report of another scale is just running with the same callback.
     ZelGUIScale(QWidget *parent, int x, int y, int width, int height, int minimum, int maximum,
                 ZelGUIIntCallback valueCallback, ZelGUIIntCallback dragCallback);
 
     QLabel *numericDisplay() const { return m_numericDisplay; }
+
+protected:
+    void timerEvent(QTimerEvent *event) override;
 
 private Q_SLOTS:
     void onValueChanged(int value);
@@ -29,6 +33,7 @@ private Q_SLOTS:
 
 private:
     void addNumericDisplay();
+    void reportMade();
     void showValue();
 
     ZelGUIIntCallback m_valueCallback;
