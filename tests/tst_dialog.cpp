@@ -56,6 +56,7 @@ private Q_SLOTS:
     void extraButtons();
     void extraButtonAsDefault();
     void launchOfModelessReturnsAtOnce();
+    void launchInInit();
     void launchInOwnCallback();
     void requestsInACallback();
     void dropAndRelaunchFromNestedModalDialog();
@@ -101,6 +102,11 @@ void tst_Dialog::windowAndTitle()
     QCOMPARE(dialog->windowFlags(),
              Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     QCOMPARE(dialog->windowTitle(), QString("Modeless"));
+    // A larger request would end the connection to an X server; no character is cut in two.
+    ZelGUIDialogSetTitle(child, ("x" + QByteArray("\xF0\x9F\x98\x80").repeated(17000)).constData());
+    QCOMPARE(object<QDialog>(child)->windowTitle().size(), 32767);
+    ZelGUIDialogSetTitle(child, ("xy" + QByteArray("\xF0\x9F\x98\x80").repeated(17000)).constData());
+    QCOMPARE(object<QDialog>(child)->windowTitle().size(), 32766);
     ZelGUIDialogSetTitle(child, "\xEF\xBB\xBF\xC3\x84rger % 5 \xF0\x9F\x98\x80");
     QCOMPARE(dialog->windowTitle().toUtf8(), QByteArray("\xEF\xBB\xBF\xC3\x84rger % 5 \xF0\x9F\x98\x80"));
 }
@@ -233,6 +239,25 @@ void tst_Dialog::launchOfModelessReturnsAtOnce()
 }
 
 // A second exec() of the same dialog makes the toolkit warn. OK defers what is asked for, Apply doesn't.
+/// The launch that has led to the init callback is under way already.
+void tst_Dialog::launchInInit()
+{
+    const int modal = createModal();
+    const int modeless = createModeless();
+    action(Init) = [=] {
+        ZelGUIDialogLaunch(modeless);
+        ZelGUIDialogLaunch(modal);
+    };
+    bool wasUp = false;
+    whenModal(modal, [&] {
+        wasUp = ZelGUIDialogIsUp(modal) && ZelGUIDialogIsUp(modeless);
+        ZelGUIDialogDrop(modal);
+    });
+    ZelGUIDialogLaunch(modal);
+    QVERIFY(wasUp);
+    QCOMPARE(log(), QStringList({"Init", "Init"}));
+}
+
 void tst_Dialog::launchInOwnCallback()
 {
     const int id = createModal();

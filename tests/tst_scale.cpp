@@ -32,6 +32,8 @@ private Q_SLOTS:
     void keysReportValues();
     void dragReportsTheValueBefore();
     void displayFollowsWhatTheCallbackSets();
+    void steppingEndsWithTheButton();
+    void madeInItsOwnDragCallback();
     void numericDisplay();
     void extremeLimits_data();
     void extremeLimits();
@@ -125,6 +127,26 @@ void tst_Scale::displayFollowsWhatTheCallbackSets()
     action(Scale) = [id] { ZelGUIScaleSetValue(id, 30); };
     QTest::keyClick(shown<QSlider>(id), Qt::Key_End);
     QCOMPARE(display(id)->text(), QString("30"));
+}
+
+/// Something else got the release of the mouse: a message that the callback shows, say.
+void tst_Scale::steppingEndsWithTheButton()
+{
+    const int id = addScale(launchModeless(), 0, 100);
+    auto *const slider = shown<QSlider>(id);
+    QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier, QPoint(slider->width() - 3, slider->height() / 2));
+    QTest::mouseRelease(mainWindow(), Qt::LeftButton);
+    QTest::qWait(700);
+    QCOMPARE(log().filter("Scale"), QStringList("Scale 10"));
+}
+
+void tst_Scale::madeInItsOwnDragCallback()
+{
+    const int dialog = createModal();
+    action(Drag) = [=] { addScale(dialog, 5, 10); };
+    addScale(dialog, 0, 10);
+    QCOMPARE(log(), QStringList("Drag 0"));
+    QCOMPARE(object<QWidget>(dialog)->findChildren<QSlider *>().size(), 2);
 }
 
 void tst_Scale::numericDisplay()
