@@ -45,6 +45,7 @@ readelf --program-headers --wide "$library" >"$folder/segments"
 grep -q 'GNU_STACK.* RW ' "$folder/segments" || complain "The stack is executable."
 grep -q GNU_RELRO "$folder/segments" || complain "The relocations stay writable."
 grep -q BIND_NOW "$folder/dynamic" || complain "The relocations stay writable."
+grep -q NODELETE "$folder/dynamic" || complain "The library would be unloaded with the last add-on."
 ! grep -q TEXTREL "$folder/dynamic" || complain "The code is relocated."
 ! grep -E 'RPATH|RUNPATH' "$folder/dynamic" || complain "A run path is left."
 

@@ -75,8 +75,8 @@ void tst_Placement::geometry_data()
     row("line and a half", 150, 17, 37);
     row("wide", 1000, 112, 250);
     const QPoint most(std::numeric_limits<int>::max(), std::numeric_limits<int>::max());
-    QTest::newRow("larger than any dialog") << most << QSize(most.x(), most.y()) << QPoint(32767, 32767)
-                                            << QSize(8192, 8192);
+    QTest::newRow("larger than any dialog")
+        << most << QSize(most.x(), most.y()) << QPoint(32767, 32767) << QSize(8192, 8192);
     QTest::newRow("x is zero") << QPoint(0, 50) << QSize(100, 100) << QPoint(0, 0) << QSize(11, 25);
     QTest::newRow("y is negative") << QPoint(50, -1) << QSize(100, 100) << QPoint(0, 0) << QSize(11, 25);
     // Without a size of its own, the toolkit chooses: -1 here.

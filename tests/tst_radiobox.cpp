@@ -2,6 +2,7 @@
 #include "support/rows.h"
 #include "support/zeltest.h"
 
+#include <QAccessible>
 #include <QButtonGroup>
 #include <QRadioButton>
 
@@ -85,6 +86,13 @@ void tst_RadioBox::choice()
     ZelGUIRadioBoxSetToggle(id, 3);
     QCOMPARE(ZelGUIRadioBoxGetToggle(id), 3);
     QCOMPARE(log().size(), 3);
+    // By assistive technology.
+    auto *const actions = QAccessible::queryAccessibleInterface(buttons[0])->actionInterface();
+    actions->doAction(QAccessibleActionInterface::toggleAction());
+    QCOMPARE(log().mid(3), QStringList("Radio 1"));
+    // A switch without a click has no effect on what the next click reports.
+    click(1);
+    QCOMPARE(log().mid(4), QStringList("Radio 1"));
 }
 
 ZELTEST_MAIN(tst_RadioBox)
