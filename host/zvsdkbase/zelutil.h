@@ -78,8 +78,9 @@ LgIndex ZelUtilSetGetNextMember(IndexSet set, LgIndex after);
 
 /**
  * Adds first, first + step, first + 2 * step and so on up to last, at the cost of the runs that they make rather than
- * of the members: a range without gaps is one run, however long. A host need not have this function; without it,
- * callers add member by member.
+ * of the members: a range is one run, however long. Only where it overlaps a run whose step doesn't fit, such as 3 and
+ * 2, are members held one by one; more than some millions of these are refused. A host need not have this function;
+ * without it, callers add member by member.
  *
  * @param first       1 or greater
  * @param last        first or greater

@@ -200,6 +200,13 @@ void tst_Models::longRangesAndManyMembers()
     QCOMPARE(textOf(m_fields[0]), QByteArray("1-9999999999"));
     ZelUtilSetDealloc(&set);
 
+    ZelGUITextFieldSetString(m_fields[0], "1-9999999999:4 3-9999999999:4 5000000000 8888888888-9999999999");
+    QCOMPARE(ZelGUITextFieldGetSet(m_fields[0], &set), 1);
+    QCOMPARE(ZelUtilSetGetNextMember(set, 4999999998), LgIndex(4999999999));
+    QCOMPARE(ZelUtilSetGetNextMember(set, 5000000001), LgIndex(5000000003));
+    QCOMPARE(ZelUtilSetGetNextMember(set, 9999999997), LgIndex(9999999998));
+    ZelUtilSetDealloc(&set);
+
     ZelGUITextFieldSetString(m_fields[0], "2-400000:4");
     QCOMPARE(ZelGUITextFieldGetSet(m_fields[0], &set), 1);
     QCOMPARE(takeMembers(set).size(), std::size_t(100000));
