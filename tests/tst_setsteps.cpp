@@ -44,6 +44,13 @@ ZelBoolean ZelUtilSetAddMember(IndexSet set, LgIndex member, ZelBoolean)
     return 1;
 }
 
+// Without a function for the ends of runs, this one is of no use.
+ZelBoolean ZelUtilSetAddRange(IndexSet, LgIndex first, LgIndex last, LgIndex step, ZelBoolean)
+{
+    added << first << last << step;
+    return 0;
+}
+
 LgIndex ZelUtilSetGetNextMember(IndexSet set, LgIndex after)
 {
     const auto next = set->members.upper_bound(after);
@@ -150,6 +157,16 @@ void tst_SetSteps::written()
     IndexSet_s endOfAllNumbers{{1, INT64_MAX - 1, INT64_MAX}};
     ZelGUITextFieldSetSet(m_field, &endOfAllNumbers, 0);
     QCOMPARE(object<QLineEdit>(m_field)->text(), QString("1,9223372036854775806-9223372036854775807"));
+
+    // As long as a line can be, without brackets. Cut, it would be another set.
+    IndexSet_s longest{{1001, 1003, 1005}};
+    for (LgIndex member = 200000; longest.members.size() < 3 + 4679; member += 2)
+        longest.members.insert(member);
+    ZelGUITextFieldSetSet(m_field, &longest, 0);
+    QCOMPARE(object<QLineEdit>(m_field)->text().size(), 32767);
+    ZelGUITextFieldSetString(m_field, "before");
+    ZelGUITextFieldSetSet(m_field, &longest, 1);
+    QCOMPARE(object<QLineEdit>(m_field)->text(), QString("before"));
 }
 
 void tst_SetSteps::refusedString()

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void pastedNullCharacter();
     void validateDouble_data();
     void validateDouble();
+    void tooLongNumber();
 
 private:
     bool m_isSpin;
@@ -145,6 +146,14 @@ void tst_TextField::validateDouble()
     QCOMPARE(bool(ZelGUITextFieldValidateDouble(m_field, nullptr, min, max)), message.isEmpty());
     QCOMPARE(messages.size(), message.isEmpty() ? 0 : 1);
     QCOMPARE(taken(ZelGUITextFieldGetString(m_field)), text);
+}
+
+/// The field would cut the number to another one.
+void tst_TextField::tooLongNumber()
+{
+    ZelGUITextFieldSetDouble(m_field, 12, QByteArray(32765, ' ') + "%.0f");
+    ZelGUITextFieldSetDouble(m_field, 345, QByteArray(32765, ' ') + "%.0f");
+    QCOMPARE(taken(ZelGUITextFieldGetString(m_field)).trimmed(), QByteArray("12"));
 }
 
 ZELTEST_SPIN_MAIN(tst_TextField)

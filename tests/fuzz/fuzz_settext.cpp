@@ -24,14 +24,15 @@ std::vector<LgIndex> membersOf(IndexSet set)
 void writeAndReadAgain(int field, IndexSet set, const std::vector<LgIndex> &members)
 {
     for (const bool includeBrackets : {false, true}) {
+        const QString before = FuzzHost::textOf(field);
         ZelGUITextFieldSetSet(field, set, includeBrackets);
-        const QString text = FuzzHost::textOf(field);
         const QString told = SetModel::write(members, includeBrackets);
         constexpr int kLongestLine = 32767;
-        require(text == told.left(kLongestLine), "a set is written as the model tells");
+        require(FuzzHost::textOf(field) == (told.size() > kLongestLine ? before : told),
+                "a set is written as the model tells");
         IndexSet again = nullptr;
         const bool isRead = ZelGUITextFieldGetSet(field, &again) == 1;
-        require(told.size() > kLongestLine || (isRead && membersOf(again) == members), "what is written can be read");
+        require(isRead && membersOf(again) == members, "what is written can be read");
         ZelUtilSetDealloc(&again);
     }
 }

@@ -205,6 +205,9 @@ void tst_Models::longRangesAndManyMembers()
     QCOMPARE(ZelUtilSetGetNextMember(set, 4999999998), LgIndex(4999999999));
     QCOMPARE(ZelUtilSetGetNextMember(set, 5000000001), LgIndex(5000000003));
     QCOMPARE(ZelUtilSetGetNextMember(set, 9999999997), LgIndex(9999999998));
+    const QByteArray before = textOf(m_fields[0]);
+    ZelGUITextFieldSetSet(m_fields[0], set, 0);
+    QCOMPARE(textOf(m_fields[0]), before);
     ZelUtilSetDealloc(&set);
 
     ZelGUITextFieldSetString(m_fields[0], "2-400000:4");

@@ -422,7 +422,7 @@ ZELGUI_API int ZelGUITextFieldAdd(int parentId, int x, int y, int width, int hei
  */
 ZELGUI_API char *ZelGUITextFieldGetString(int fieldId);
 
-/** Sets the text, UTF-8. */
+/** Sets the text, UTF-8; of more than 32767 characters, the first 32767. */
 ZELGUI_API void ZelGUITextFieldSetString(int fieldId, const char *text);
 
 /**
@@ -433,7 +433,7 @@ ZELGUI_API void ZelGUITextFieldSetString(int fieldId, const char *text);
  */
 ZELGUI_API ZelBoolean ZelGUITextFieldGetDouble(int fieldId, double *value);
 
-/** Sets the text to a number; for the format see ZelGUILabelSetDouble. */
+/** Sets the text to a number; for the format see ZelGUILabelSetDouble. More than 32767 characters change nothing. */
 ZELGUI_API void ZelGUITextFieldSetDouble(int fieldId, double value, const char *format);
 
 /**
@@ -487,7 +487,9 @@ ZELGUI_API ZelBoolean ZelGUITextFieldValidateLgIndex(int fieldId, const char *na
 ZELGUI_API ZelBoolean ZelGUITextFieldGetSet(int fieldId, IndexSet *set);
 
 /**
- * Sets the text of a text field to an index set, such as "1-3,5,7-9".
+ * Sets the text of a text field to an index set, such as "1-3,5,7-9". Where that takes more than 32767 characters,
+ * which it may from some 3,000 gaps on, the field's text stays as it was: a part of it would be another set. A field
+ * that ZelGUITextFieldSetString has made empty before the call is still empty then.
  *
  * @param set              stays the caller's; NULL counts as empty
  * @param includeBrackets  true: "[1-3,5,7-9]"

@@ -7,9 +7,14 @@
 #include <cstring>
 #include <string>
 
-// A host may lack these two.
-#pragma weak ZelUtilSetAddRange
-#pragma weak ZelUtilSetGetRunEnd
+// A host may lack these two, and its header too.
+extern "C" {
+// NOLINTBEGIN(readability-redundant-declaration)
+__attribute__((weak)) ZelBoolean ZelUtilSetAddRange(IndexSet set, LgIndex first, LgIndex last, LgIndex step,
+                                                    ZelBoolean showErrors);
+__attribute__((weak)) LgIndex ZelUtilSetGetRunEnd(IndexSet set, LgIndex member);
+// NOLINTEND(readability-redundant-declaration)
+}
 
 namespace orvane::zelgui {
 
@@ -18,19 +23,22 @@ namespace {
 /// Digits of the longest number that a text may hold.
 constexpr int kMostDigits = 10;
 
-/// Whether the host handles whole runs of members. Its functions for runs are of use only with sets of its own, so they
-/// have to come from the library that also adds single members.
+template <typename Function, typename Other>
+bool areOfOneLibrary(Function *function, Other *other)
+{
+    Dl_info one{};
+    Dl_info another{};
+    return dladdr(reinterpret_cast<void *>(function), &one) != 0 &&
+           dladdr(reinterpret_cast<void *>(other), &another) != 0 && one.dli_fbase == another.dli_fbase;
+}
+
+/// Whether the host handles whole runs of members. Its functions for runs are of use only with sets of its own: each
+/// has to come from the library that does the same with single members.
 bool hostHasRuns()
 {
-    static const bool hasRuns = [] {
-        if (!ZelUtilSetAddRange || !ZelUtilSetGetRunEnd)
-            return false;
-        Dl_info single{};
-        Dl_info range{};
-        return dladdr(reinterpret_cast<void *>(&ZelUtilSetAddMember), &single) != 0 &&
-               dladdr(reinterpret_cast<void *>(&ZelUtilSetAddRange), &range) != 0 &&
-               single.dli_fbase == range.dli_fbase;
-    }();
+    static const bool hasRuns = ZelUtilSetAddRange && ZelUtilSetGetRunEnd &&
+                                areOfOneLibrary(&ZelUtilSetAddRange, &ZelUtilSetAddMember) &&
+                                areOfOneLibrary(&ZelUtilSetGetRunEnd, &ZelUtilSetGetNextMember);
     return hasRuns;
 }
 
@@ -152,11 +160,12 @@ private:
 
 } // namespace
 
-void setToString(IndexSet set, bool includeBrackets, char **text)
+bool setToString(IndexSet set, bool includeBrackets, std::size_t longest, char **text)
 {
-    std::string written;
+    std::string written(includeBrackets ? "[" : "");
     LgIndex next = 0;
-    for (LgIndex first = set ? ZelUtilSetGetNextMember(set, 0) : 0; first != 0; first = next) {
+    LgIndex first = set ? ZelUtilSetGetNextMember(set, 0) : 0;
+    for (; first != 0 && written.size() <= longest; first = next) {
         const LgIndex last = runEnd(set, first, next);
         written += std::to_string(first);
         if (last != first)
@@ -164,7 +173,12 @@ void setToString(IndexSet set, bool includeBrackets, char **text)
         if (next != 0)
             written += ',';
     }
-    appendHostString(text, includeBrackets ? '[' + written + ']' : written);
+    if (includeBrackets)
+        written += ']';
+    if (written.size() > longest)
+        return false;
+    appendHostString(text, written);
+    return true;
 }
 
 bool stringToSet(const char *text, IndexSet *set, bool expectBrackets)

@@ -92,7 +92,8 @@ bool writeText(QLineEdit &field, const QString &text)
 bool writeDouble(QLineEdit &field, double value, const char *format)
 {
     const QString text = formatDouble(format, value);
-    return !text.isNull() && writeText(field, text);
+    // What the field would cut could read as another number.
+    return !text.isNull() && text.size() <= field.maxLength() && writeText(field, text);
 }
 
 bool writeLgIndex(QLineEdit &field, LgIndex value, bool displayAsMX)

@@ -34,7 +34,8 @@ std::optional<double> readDouble(const QLineEdit &field);
 std::optional<LgIndex> readLgIndex(const QLineEdit &field);
 bool containsMX(const QLineEdit &field);
 
-/// All of these set the text without a report; false where a number format makes no sense.
+/// All of these set the text without a report; false where a number format makes no sense, or yields more than the
+/// field can hold.
 bool writeText(QLineEdit &field, const QString &text);
 bool writeDouble(QLineEdit &field, double value, const char *format);
 bool writeLgIndex(QLineEdit &field, LgIndex value, bool displayAsMX);

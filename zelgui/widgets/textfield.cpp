@@ -5,7 +5,6 @@
 #include "core/entrypoint.h"
 #include "core/placement.h"
 #include "core/text.h"
-#include "util/setstring.h"
 #include "widgets/fieldvalue.h"
 #include "widgets/focusloss.h"
 
@@ -201,29 +200,4 @@ ZelBoolean ZelGUITextFieldGetLgIndex(int fieldId, LgIndex *value)
 void ZelGUITextFieldSetLgIndex(int fieldId, LgIndex value, ZelBoolean displayAsMX)
 {
     withLineEdit(fieldId, false, [=](QLineEdit &field) { return writeLgIndex(field, value, displayAsMX != 0); });
-}
-
-ZelBoolean ZelGUITextFieldGetSet(int fieldId, IndexSet *set)
-{
-    return withWidget<QLineEdit>(fieldId, ZelBoolean{0}, [set](const QLineEdit &field) -> ZelBoolean {
-        const QString text = field.text();
-        IndexSet members = nullptr;
-        const bool isSet = stringToSet(text.toUtf8().constData(), &members, text.contains(QLatin1Char('[')));
-        if (set)
-            *set = members;
-        else if (members)
-            ZelUtilSetDealloc(&members);
-        return isSet;
-    });
-}
-
-void ZelGUITextFieldSetSet(int fieldId, IndexSet set, ZelBoolean includeBrackets)
-{
-    withWidget<QLineEdit>(fieldId, [=](QLineEdit &field) {
-        char *text = nullptr;
-        setToString(set, includeBrackets != 0, &text);
-        field.setText(fromLatin1(text));
-        if (text)
-            ZelUtilStringDealloc(&text);
-    });
 }
