@@ -1,17 +1,15 @@
 # SPDX-License-Identifier: MIT
 # Whether the layer behind zelhost's --trace and --strict is built. What it takes besides is needed for nothing else.
-find_program(CASTXML castxml)
 find_path(FFI_INCLUDE_DIR ffi.h)
 find_library(FFI_LIBRARY ffi)
-find_package(Python3 COMPONENTS Interpreter)
 set(trace_possible OFF)
-if(CASTXML AND FFI_INCLUDE_DIR AND FFI_LIBRARY AND Python3_Interpreter_FOUND)
+if(FFI_INCLUDE_DIR AND FFI_LIBRARY)
     set(trace_possible ON)
 endif()
 
 option(ZELGUI_TRACE "Build what zelhost needs for --trace and --strict" ${trace_possible})
 if(ZELGUI_TRACE AND NOT trace_possible)
-    message(FATAL_ERROR "ZELGUI_TRACE needs castxml, Python 3 and libffi with its header.")
+    message(FATAL_ERROR "ZELGUI_TRACE needs libffi with its header.")
 elseif(NOT ZELGUI_TRACE)
-    message(STATUS "zelhost has no --trace and --strict; they need castxml, Python 3 and libffi with its header.")
+    message(STATUS "zelhost has no --trace and --strict; they need libffi with its header.")
 endif()

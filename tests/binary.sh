@@ -9,7 +9,6 @@ update=
 [ "$1" != --update-abi ] || { update=yes; shift; }
 build=$1
 source=$2
-header=$source/zelgui/api/zelgui.h
 abi=$source/zelgui/api/zelgui.abi
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
@@ -35,10 +34,10 @@ if [ -n "$update" ]; then
 fi
 failed=
 
-nm --dynamic --defined-only --format=posix "$library" | cut -d ' ' -f 1 | sort >"$folder/exported"
-sed -n 's/^ZELGUI_API .*\(ZelGUI[A-Za-z0-9]*\)(.*/\1/p' "$header" | sort >"$folder/declared"
-[ "$(wc -l <"$folder/declared")" -eq 116 ] || complain "The header doesn't declare 116 functions."
-diff "$folder/declared" "$folder/exported" || complain "The functions declared (<) and exported (>) differ."
+nm --dynamic --defined-only --format=posix "$library" | cut -d ' ' -f 1 | LC_ALL=C sort >"$folder/exported"
+declared=$build/interface/functions.txt
+[ "$(wc -l <"$declared")" -eq 116 ] || complain "The header doesn't declare 116 functions."
+diff "$declared" "$folder/exported" || complain "The functions declared (<) and exported (>) differ."
 
 readelf --dynamic --wide "$library" >"$folder/dynamic"
 readelf --program-headers --wide "$library" >"$folder/segments"

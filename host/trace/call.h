@@ -2,58 +2,14 @@
 #ifndef ZELGUI_TRACE_CALL_H
 #define ZELGUI_TRACE_CALL_H
 
-#include "interfacetypes.h"
+#include <interface/functions.h>
 
-#include <zelgui/zelgui.h>
-
-#include <cstdint>
 #include <string>
-#include <variant>
 #include <vector>
 
 namespace orvane::trace {
 
-/// What interface.ini says of a parameter. `PositionsCallback` is a callback that is told an array of positions.
-enum class Kind {
-    Plain,
-    Identifier,
-    Latin1,
-    Utf8,
-    Format,
-    Position,
-    PositionOrZero,
-    Positions,
-    PositionsCallback,
-    Unread
-};
-
-using ObjectTypes = std::uint32_t;
-
-constexpr ObjectTypes bit(ObjectType type)
-{
-    return ObjectTypes(1) << static_cast<unsigned>(type);
-}
-
-struct Parameter
-{
-    const char *name;
-    Kind kind;
-    /// What an identifier may name.
-    ObjectTypes accepted = 0;
-};
-
-struct Function
-{
-    const char *name;
-    ObjectType created;
-    std::vector<Parameter> parameters;
-};
-
-/// An argument or a result, with its C type. The first alternative stands for the result of a void function.
-using Value =
-    std::variant<std::monostate, int, ZelBoolean, LgIndex, double, char *, const char *, const unsigned char *,
-                 const int *, int *, int **, double *, LgIndex *, ZelBoolean *, IndexSet, IndexSet *, StringList_s *,
-                 ZelGUIVoidCallback, ZelGUIIntCallback, ZelGUITextCallback>;
+using namespace interface;
 
 /// One call of the interface, from its beginning to its end.
 struct Call

@@ -23,7 +23,7 @@ template <typename T>
 T substitute(const Call &call, std::size_t index, T argument)
 {
     if constexpr (std::is_pointer_v<T> && std::is_function_v<std::remove_pointer_t<T>>)
-        return closureFor(argument, call.function.parameters[index].kind == Kind::PositionsCallback);
+        return closureFor(argument, call.function.parameters[index].content == Kind::Positions);
     else
         return argument;
 }
@@ -55,5 +55,8 @@ R intercept(const Function &function, R (*real)(P...), const void *caller, std::
 }
 
 } // namespace orvane::trace
+
+using orvane::trace::intercept;
+using orvane::trace::realFunction;
 
 #endif

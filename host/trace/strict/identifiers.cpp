@@ -62,7 +62,7 @@ void Identifiers::called(const Call &call)
         return;
     for (std::size_t i = 0; i < call.arguments.size(); ++i) {
         const Parameter &parameter = call.function.parameters[i];
-        if (parameter.kind != Kind::Identifier)
+        if (parameter.kind != Kind::Id)
             continue;
         const int id = call.argument<int>(i);
         const std::string fault = faultOf(parameter, id, m_objects.find(id));

@@ -36,7 +36,7 @@ void Positions::called(const Call &call)
     for (std::size_t i = 0; i < call.arguments.size(); ++i) {
         const Parameter &parameter = call.function.parameters[i];
         const bool isArray = parameter.kind == Kind::Positions;
-        if (parameter.kind != Kind::Position && parameter.kind != Kind::PositionOrZero && !isArray)
+        if (parameter.kind != Kind::Position && parameter.kind != Kind::PositionOr0 && !isArray)
             continue;
         const int count = isGuiAvailable() ? itemCount(m_objects.find(call.argument<int>(0))) : -1;
         if (count < 0)
@@ -51,7 +51,7 @@ void Positions::called(const Call &call)
 
 void Positions::check(const Call &call, const Parameter &parameter, int position, int count)
 {
-    const int first = parameter.kind == Kind::PositionOrZero ? 0 : 1;
+    const int first = parameter.kind == Kind::PositionOr0 ? 0 : 1;
     if (position >= first && position <= count)
         return;
     const std::string remedy =
