@@ -23,7 +23,6 @@ public:
 
 private Q_SLOTS:
     void initTestCase();
-    void neutralAnswers_data();
     void neutralAnswers();
     void neverComesBack();
 
@@ -55,23 +54,16 @@ void tst_NoGui::initTestCase()
     }
 }
 
-void tst_NoGui::neutralAnswers_data()
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < entryPoints().size(); ++i)
-        QTest::newRow(entryPoints()[i].name) << i;
-}
-
 void tst_NoGui::neutralAnswers()
 {
-    QFETCH(int, index);
-    const EntryPoint &entryPoint = entryPoints()[index];
-    for (const int id : {-1, 0, 1}) {
-        Call call(entryPoint);
-        for (const int identifier : entryPoint.identifiers())
-            call.setNumber(identifier, id);
-        QCOMPARE(call.run(), entryPoint.withoutGui);
-        QVERIFY(call.areOutputsUntouched());
+    for (const Function &function : functions()) {
+        for (const int id : {-1, 0, 1}) {
+            Harmless source;
+            for (const Parameter *const identifier : identifiersOf(function))
+                source.identifiers[identifier] = id;
+            Call call(function, source);
+            QVERIFY2(call.run() == function.withoutGui && call.areOutputsUntouched(), function.name);
+        }
     }
     QVERIFY(!m_mainWindow || m_mainWindow->findChildren<QDialog *>().isEmpty());
 }

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "support/call.h"
-#include "support/declared.h"
 #include "support/scene.h"
 #include "support/snapshot.h"
 #include "support/zeltest.h"
 
 #include <QDialog>
-#include <QRegularExpression>
 #include <QTimer>
 
-#include <algorithm>
 #include <limits>
+
+using orvane::interface::bit;
 
 // Called in place of the host's, which would wait for the user.
 extern "C" void ZelUtilDialogErrMsg(const char *) {}
@@ -23,21 +22,22 @@ class tst_WrongUse : public ZelTest
 
 private Q_SLOTS:
     void initTestCase();
-    void tableIsComplete();
-    void wrongIdentifiers_data();
+    void wrongIdentifiers_data() { addFunctions(false); }
     void wrongIdentifiers();
-    void rightIdentifiers_data() { wrongIdentifiers_data(); }
+    void rightIdentifiers_data() { addFunctions(true); }
     void rightIdentifiers();
     void nullIsEmpty_data();
     void nullIsEmpty();
 
 private:
-    bool isAccepted(const QStringList &accepted, const SceneObject &candidate) const;
+    static void addFunctions(bool onlyWithObjects);
     QVector<int> rightIds(const Parameter &parameter) const;
     QVector<int> wrongIds(const Parameter &parameter) const;
+    /// Names an object for each identifier.
+    void setIdentifiers(Harmless &source, const Function &function) const;
     void show();
 
-    QVector<SceneObject> m_objects;
+    std::vector<SceneObject> m_objects;
     QVector<int> m_nothing;
 };
 
@@ -49,26 +49,19 @@ void tst_WrongUse::initTestCase()
     delete object<QDialog>(doomed);
     m_objects = makeEveryKind(ZELGUI_MAIN_WINDOW);
     for (const SceneObject &each : m_objects)
-        QVERIFY2(object<QObject>(each.id), each.kind);
+        QVERIFY2(object<QObject>(each.id), each.creator->name);
     using Limits = std::numeric_limits<int>;
-    m_nothing = {destroyed, -1, -2, m_objects.last().id + 1, Limits::min(), Limits::max()};
+    m_nothing = {destroyed, -1, -2, m_objects.back().id + 1, Limits::min(), Limits::max()};
     // Some properties make what they tell of when they are read first.
     snapshot(mainWindow());
-}
-
-bool tst_WrongUse::isAccepted(const QStringList &accepted, const SceneObject &candidate) const
-{
-    return std::any_of(accepted.begin(), accepted.end(), [&](const QString &name) {
-        return name == QLatin1String(candidate.kind) || object<QObject>(candidate.id)->inherits(name.toLatin1());
-    });
 }
 
 QVector<int> tst_WrongUse::rightIds(const Parameter &parameter) const
 {
     QVector<int> ids;
-    for (const SceneObject &candidate : m_objects) {
-        if (isAccepted(parameter.accepts, candidate))
-            ids << candidate.id;
+    for (const SceneObject &each : m_objects) {
+        if (each.isOneOf(workingTypes(parameter)))
+            ids << each.id;
     }
     return ids;
 }
@@ -76,61 +69,56 @@ QVector<int> tst_WrongUse::rightIds(const Parameter &parameter) const
 QVector<int> tst_WrongUse::wrongIds(const Parameter &parameter) const
 {
     QVector<int> ids = m_nothing;
-    if (parameter.name == QLatin1String("parentDialogId"))
+    if (parameter.accepted & bit(ObjectType::MainWindow))
         ids.removeAll(ZELGUI_MAIN_WINDOW);
-    for (const SceneObject &candidate : m_objects) {
-        if (!isAccepted(parameter.accepts, candidate))
-            ids << candidate.id;
+    for (const SceneObject &each : m_objects) {
+        if (!each.isOneOf(workingTypes(parameter)))
+            ids << each.id;
     }
     return ids;
 }
 
-void tst_WrongUse::tableIsComplete()
+void tst_WrongUse::setIdentifiers(Harmless &source, const Function &function) const
 {
-    QStringList covered;
-    for (const EntryPoint &entryPoint : entryPoints())
-        covered << QString::fromLatin1(entryPoint.name);
-    covered.sort();
-    QVERIFY(!covered.isEmpty());
-    QCOMPARE(covered, declaredFunctions());
+    for (const Parameter *const parameter : identifiersOf(function))
+        source.identifiers[parameter] = rightIds(*parameter).value(0);
 }
 
-void tst_WrongUse::wrongIdentifiers_data()
+void tst_WrongUse::addFunctions(bool onlyWithObjects)
 {
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < entryPoints().size(); ++i)
-        QTest::newRow(entryPoints()[i].name) << i;
+    QTest::addColumn<const Function *>("function");
+    for (const Function &function : functions()) {
+        if (!onlyWithObjects || !identifiersOf(function).empty())
+            QTest::newRow(function.name) << &function;
+    }
 }
 
 // The neutral answer, and nothing changes. Functions that look at two identifiers need both of them.
 void tst_WrongUse::wrongIdentifiers()
 {
-    QFETCH(int, index);
-    const EntryPoint &entryPoint = entryPoints()[index];
+    QFETCH(const Function *, function);
     const QStringList before = snapshot(mainWindow());
-    for (const int wrong : entryPoint.identifiers()) {
-        const Parameter &parameter = entryPoint.parameters[wrong];
-        // One that isn't read does no harm, and says nothing about the others.
-        if (parameter.accepts.isEmpty() && entryPoint.identifiers().size() > 1)
-            continue;
-        for (const int id : wrongIds(parameter)) {
-            Call call(entryPoint);
-            for (const int other : entryPoint.identifiers())
-                call.setNumber(other, rightIds(entryPoint.parameters[other]).value(0, id));
-            call.setNumber(wrong, id);
-            QVERIFY2(call.run() == entryPoint.neutral, qPrintable(QString::number(id)));
-            QVERIFY2(call.areOutputsUntouched(), qPrintable(QString::number(id)));
+    const auto isNeutral = [function](Harmless &source) {
+        Call call(*function, source);
+        return call.run() == function->neutral && call.areOutputsUntouched();
+    };
+    for (const Parameter *const parameter : identifiersOf(*function)) {
+        Harmless source;
+        setIdentifiers(source, *function);
+        for (const int id : wrongIds(*parameter)) {
+            source.identifiers[parameter] = id;
+            QVERIFY2(isNeutral(source), qPrintable(QString::number(id)));
         }
     }
-    if (entryPoint.identifiers().isEmpty())
-        QCOMPARE(Call(entryPoint).run(), entryPoint.neutral);
+    Harmless source;
+    QVERIFY(isNeutral(source));
     QCOMPARE(snapshot(mainWindow()), before);
 }
 
 /// Lets the user see what has become of the objects.
 void tst_WrongUse::show()
 {
-    QWidget *const dialog = object<QWidget>(m_objects.first().id);
+    QWidget *const dialog = object<QWidget>(m_objects.front().id);
     dialog->show();
     QCoreApplication::processEvents();
     dialog->grab();
@@ -141,36 +129,37 @@ void tst_WrongUse::show()
 // other, and for all of them. Other dialogs are not concerned.
 void tst_WrongUse::rightIdentifiers()
 {
-    QFETCH(int, index);
-    const EntryPoint &entryPoint = entryPoints()[index];
-    if (entryPoint.identifiers().isEmpty() || entryPoint.parameters[entryPoint.identifiers().last()].accepts.isEmpty())
-        return;
-    const QVector<SceneObject> standing = m_objects;
-    const int otherDialog = makeEveryKind(ZELGUI_MAIN_WINDOW).first().id;
+    QFETCH(const Function *, function);
+    const std::vector<SceneObject> standing = m_objects;
+    const int otherDialog = makeEveryKind(ZELGUI_MAIN_WINDOW).front().id;
     // Asking for sizes polishes lists, which lay out their items later.
     snapshot(object<QObject>(otherDialog));
     QCoreApplication::processEvents();
     const QStringList before = snapshot(object<QObject>(otherDialog));
 
     m_objects = makeEveryKind(ZELGUI_MAIN_WINDOW);
-    const QPointer<QObject> dialog = object<QObject>(m_objects.first().id);
-    const auto pointers = entryPoint.positionsOf(isPointer);
-    for (const SceneObject &each : m_objects) {
-        if (!isAccepted(entryPoint.parameters[entryPoint.identifiers().last()].accepts, each))
-            continue;
-        for (int nulls = -1; nulls <= pointers.size(); ++nulls) {
-            Call call(entryPoint);
-            for (const int identifier : entryPoint.identifiers())
-                call.setNumber(identifier, rightIds(entryPoint.parameters[identifier]).value(0, each.id));
-            call.setNumber(entryPoint.identifiers().last(), each.id);
-            for (int i = 0; i < pointers.size(); ++i) {
-                if (nulls == i || nulls == pointers.size())
-                    call.setNull(pointers[i]);
-            }
+    const QPointer<QObject> dialog = object<QObject>(m_objects.front().id);
+    std::set<const Parameter *> pointers;
+    for (const Parameter &parameter : function->parameters) {
+        if (std::visit([](auto null) { return std::is_pointer_v<decltype(null)>; }, parameter.null))
+            pointers.insert(&parameter);
+    }
+    std::vector<std::set<const Parameter *>> nulls = {{}, pointers};
+    for (const Parameter *const pointer : pointers)
+        nulls.push_back({pointer});
+    const Parameter *const last = identifiersOf(*function).back();
+    for (const int id : rightIds(*last)) {
+        for (const auto &each : nulls) {
+            Harmless source;
+            setIdentifiers(source, *function);
+            source.identifiers[last] = id;
+            source.nulls = each;
             // If this is a launch, end it.
-            QTimer::singleShot(0, this, [id = each.id] { ZelGUIDialogDrop(id); });
+            QTimer::singleShot(0, this, [id] { ZelGUIDialogDrop(id); });
             // What can be made or counted, is.
-            QVERIFY2(call.run() != entryPoint.neutral || entryPoint.neutral != QLatin1String("-2"), each.kind);
+            Call call(*function, source);
+            QVERIFY2(call.run() != function->neutral || function->neutral != Value(ZELGUI_INVALID_ID),
+                     qPrintable(QString::number(id)));
         }
         show();
     }
@@ -183,21 +172,13 @@ void tst_WrongUse::rightIdentifiers()
 
 void tst_WrongUse::nullIsEmpty_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<int>("pointer");
-    const auto canBeEmpty = [](Kind kind) {
-        return isPointer(kind) && kind != Kind::Pixels && !isOutput(kind) && !isCallback(kind);
-    };
-    // Where null says that something isn't there at all.
-    static const QRegularExpression absence(QStringLiteral("RadioBoxAdd label[345]|FrameAdd title"));
-    for (int i = 0; i < entryPoints().size(); ++i) {
-        const EntryPoint &entryPoint = entryPoints()[i];
-        if (entryPoint.identifiers().isEmpty() || entryPoint.parameters[0].accepts.isEmpty())
-            continue;
-        for (const int pointer : entryPoint.positionsOf(canBeEmpty)) {
-            const QString name = QLatin1String(entryPoint.name) + ' ' + entryPoint.parameters[pointer].name;
-            if (!name.contains(absence))
-                QTest::newRow(qPrintable(name)) << i << pointer;
+    QTest::addColumn<const Function *>("function");
+    QTest::addColumn<const Parameter *>("pointer");
+    const std::set<Kind> canBeEmpty = {Kind::Latin1, Kind::Utf8, Kind::Format, Kind::Positions, Kind::Set};
+    for (const Function &function : functions()) {
+        for (const Parameter &parameter : function.parameters) {
+            if (canBeEmpty.count(parameter.kind) && !parameter.isOptional)
+                QTest::addRow("%s %s", function.name, parameter.name) << &function << &parameter;
         }
     }
 }
@@ -205,32 +186,33 @@ void tst_WrongUse::nullIsEmpty_data()
 // Null and empty data have the same outcome.
 void tst_WrongUse::nullIsEmpty()
 {
-    QFETCH(int, index);
-    QFETCH(int, pointer);
-    const EntryPoint &entryPoint = entryPoints()[index];
-    const QVector<SceneObject> standing = m_objects;
-    QStringList answers;
-    QVector<QStringList> outcomes;
+    QFETCH(const Function *, function);
+    QFETCH(const Parameter *, pointer);
+    const std::vector<SceneObject> standing = m_objects;
+    std::vector<std::string> answers[2];
+    QStringList outcomes[2];
     for (const bool isNull : {false, true}) {
         m_objects = makeEveryKind(ZELGUI_MAIN_WINDOW);
-        QObject *const dialog = object<QObject>(m_objects.first().id);
+        QObject *const dialog = object<QObject>(m_objects.front().id);
         snapshot(dialog);
-        for (const int id : rightIds(entryPoint.parameters[0])) {
-            Call call(entryPoint);
-            call.setNumber(0, id);
+        const Parameter &first = function->parameters.front();
+        for (const int id : rightIds(first)) {
+            Harmless source;
+            source.identifiers[&first] = id;
             if (isNull)
-                call.setNull(pointer);
+                source.nulls = {pointer};
             else
-                call.setEmpty(pointer);
-            const QString answer = call.run();
+                source.empty = pointer;
+            Call call(*function, source);
+            call.run();
             // Identifiers differ, whatever was made.
-            answers << (entryPoint.neutral == QLatin1String("-2") ? QString() : answer);
+            answers[isNull].push_back(function->created == ObjectType::None ? call.answer() : std::string());
         }
-        outcomes << snapshot(dialog, false);
+        outcomes[isNull] = snapshot(dialog, false);
         delete dialog;
     }
     m_objects = standing;
-    QCOMPARE(answers.mid(answers.size() / 2), answers.mid(0, answers.size() / 2));
+    QVERIFY(answers[0] == answers[1]);
     QCOMPARE(outcomes[1], outcomes[0]);
 }
 

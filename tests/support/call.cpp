@@ -1,147 +1,176 @@
 // SPDX-License-Identifier: MIT
 #include "call.h"
 
-#include <zelgui/zelgui.h>
+#include <QString>
 
-#include <algorithm>
-#include <array>
-#include <vector>
+#include <dlfcn.h>
 
-namespace {
+#include <type_traits>
 
-/// Room for an output of any type.
-using Output = std::array<unsigned char, 8>;
-
-Output untouched()
+int Harmless::integer(const Parameter &parameter)
 {
-    Output output;
-    output.fill(0x5A);
-    return output;
+    const auto found = identifiers.find(&parameter);
+    if (found != identifiers.end())
+        return found->second;
+    return parameter.kind == Kind::Id ? ZELGUI_INVALID_ID : 1;
 }
 
-template <typename Function>
-Argument doingNothing(Function function)
+std::string Harmless::text(const Parameter &parameter)
 {
-    return reinterpret_cast<void (*)()>(function);
+    return &parameter == empty ? "" : parameter.kind == Kind::Format ? "%g" : "1";
 }
 
-} // namespace
-
-struct Call::Data
+std::vector<int> Harmless::positions(const Parameter &parameter)
 {
-    char text[8] = "1";
-    char format[8] = "%g";
-    char empty[1] = "";
-    unsigned char pixels[3] = {1, 2, 3};
-    int positions[1] = {1};
-    IndexSet set = ZelUtilSetAlloc(0);
-    StringList_s *strings = ZelUtilStringListAlloc();
-    IndexSet emptySet = ZelUtilSetAlloc(0);
-    StringList_s *noStrings = ZelUtilStringListAlloc();
-    std::vector<std::unique_ptr<Output>> outputs;
+    return std::vector<int>(&parameter == empty ? 0 : 1, 1);
+}
+
+std::vector<std::pair<LgIndex, LgIndex>> Harmless::runs(const Parameter &parameter)
+{
+    return std::vector<std::pair<LgIndex, LgIndex>>(&parameter == empty ? 0 : 1, {1, 1});
+}
+
+std::vector<std::string> Harmless::texts(const Parameter &parameter)
+{
+    return std::vector<std::string>(&parameter == empty ? 0 : 1, "1");
+}
+
+ZelGUIVoidCallback Harmless::voidCallback()
+{
+    return [] {};
+}
+
+ZelGUIIntCallback Harmless::intCallback()
+{
+    return [](const int *) {};
+}
+
+ZelGUITextCallback Harmless::textCallback()
+{
+    return [](const char *) { return 1; };
+}
+
+bool isUtf8(const char *text)
+{
+    // A byte order mark at the very start would be dropped on the way.
+    const QByteArray bytes = QByteArray(".") + text;
+    return QString::fromUtf8(bytes).toUtf8() == bytes;
+}
+
+/// Draws the argument for a parameter, whose C type is the one it is called with.
+struct Call::Drawing
+{
+    Call &call;
+    Source &source;
+    const Parameter &parameter;
+
+    Value operator()(std::monostate) const { return {}; }
+    Value operator()(int) const
+    {
+        return parameter.kind == Kind::Count ? source.count(int(call.m_positions.size())) : source.integer(parameter);
+    }
+    Value operator()(ZelBoolean) const { return source.byte(); }
+    Value operator()(double) const { return source.number(); }
+    Value operator()(LgIndex) const { return source.index(); }
+    Value operator()(const char *) const
+    {
+        call.m_texts.push_back(source.text(parameter));
+        return call.m_texts.back().c_str();
+    }
+    Value operator()(const unsigned char *) const
+    {
+        constexpr int kMostPixels = 10000;
+        const int rows = std::get<int>(call.m_arguments.back());
+        const int columns = std::get<int>(call.m_arguments[call.m_arguments.size() - 2]);
+        if (columns < 1 || rows < 1 || columns > kMostPixels / rows)
+            return parameter.null;
+        call.m_bytes.assign(std::size_t(columns) * std::size_t(rows) * 3, source.byte());
+        return static_cast<const unsigned char *>(call.m_bytes.data());
+    }
+    Value operator()(const int *) const
+    {
+        call.m_positions = source.positions(parameter);
+        return static_cast<const int *>(call.m_positions.data());
+    }
+    Value operator()(IndexSet) const
+    {
+        call.m_set = ZelUtilSetAlloc(0);
+        for (const auto &[first, last] : source.runs(parameter))
+            ZelUtilSetAddRange(call.m_set, first, last, 1, 0);
+        return call.m_set;
+    }
+    Value operator()(StringList_s *) const
+    {
+        call.m_list = ZelUtilStringListAlloc();
+        for (const std::string &text : source.texts(parameter))
+            ZelUtilStringListAppendString(call.m_list, text.c_str());
+        return call.m_list;
+    }
+    Value operator()(double *) const { return &call.m_outputs.number; }
+    Value operator()(LgIndex *) const { return &call.m_outputs.index; }
+    Value operator()(int *) const { return &call.m_outputs.count; }
+    Value operator()(ZelBoolean *) const { return &call.m_outputs.flag; }
+    Value operator()(int **) const { return &call.m_outputs.array; }
+    Value operator()(IndexSet *) const { return &call.m_outputs.set; }
+    Value operator()(ZelGUIVoidCallback) const { return source.voidCallback(); }
+    Value operator()(ZelGUIIntCallback) const { return source.intCallback(); }
+    Value operator()(ZelGUITextCallback) const { return source.textCallback(); }
+    Value operator()(char *) const { return parameter.null; }
 };
 
-Call::Call(const EntryPoint &entryPoint) : m_entryPoint(entryPoint), m_data(std::make_unique<Data>())
+Call::Call(const Function &function, Source &source) : m_function(function)
 {
-    ZelUtilSetAddMember(m_data->set, 1, 0);
-    ZelUtilStringListAppendString(m_data->strings, "1");
-    for (const Parameter &parameter : entryPoint.parameters) {
-        switch (parameter.kind) {
-        case Kind::Id:
-            m_arguments << qint64{ZELGUI_INVALID_ID};
-            break;
-        case Kind::Int:
-        case Kind::Byte:
-        case Kind::LgIndex:
-            m_arguments << qint64{1};
-            break;
-        case Kind::Double:
-            m_arguments << 1.0;
-            break;
-        case Kind::VoidCallback:
-            m_arguments << doingNothing(+[] {});
-            break;
-        case Kind::IntCallback:
-            m_arguments << doingNothing(+[](const int *) {});
-            break;
-        case Kind::TextCallback:
-            m_arguments << doingNothing(+[](const char *) { return 1; });
-            break;
-        default:
-            m_arguments << dataFor(parameter);
-        }
+    m_arguments.reserve(function.parameters.size());
+    for (const Parameter &parameter : function.parameters) {
+        const bool isPointer = std::visit([](auto null) { return std::is_pointer_v<decltype(null)>; }, parameter.null);
+        const bool isNull = isPointer && source.isNull(parameter);
+        m_arguments.push_back(isNull ? parameter.null : std::visit(Drawing{*this, source, parameter}, parameter.null));
     }
 }
 
 Call::~Call()
 {
-    for (IndexSet *const set : {&m_data->set, &m_data->emptySet})
-        ZelUtilSetDealloc(set);
-    for (StringList_s **const list : {&m_data->strings, &m_data->noStrings})
-        ZelUtilStringListDealloc(list);
-    int output = 0;
-    for (const int position : m_entryPoint.positionsOf(isOutput)) {
-        Output &bytes = *m_data->outputs[static_cast<std::size_t>(output++)];
-        void *const data = bytes.data();
-        const Kind kind = m_entryPoint.parameters[position].kind;
-        if (bytes == untouched())
-            continue;
-        if (kind == Kind::OutSet && *static_cast<IndexSet *>(data))
-            ZelUtilSetDealloc(static_cast<IndexSet *>(data));
-        else if (kind == Kind::OutInts)
-            ZelUtilStringDealloc(static_cast<char **>(data));
-    }
+    orvane::interface::release(m_answer);
+    if (m_outputs.array != &m_outputs.count)
+        orvane::interface::release(&m_outputs.array);
+    if (m_outputs.set != reinterpret_cast<IndexSet>(&m_outputs))
+        orvane::interface::release(&m_outputs.set);
+    ZelUtilSetDealloc(&m_set);
+    ZelUtilStringListDealloc(&m_list);
 }
 
-void *Call::dataFor(const Parameter &parameter)
+const Value &Call::run()
 {
-    switch (parameter.kind) {
-    case Kind::Text:
-        return parameter.name == QLatin1String("format") ? m_data->format : m_data->text;
-    case Kind::Pixels:
-        return m_data->pixels;
-    case Kind::Positions:
-        return m_data->positions;
-    case Kind::Set:
-        return m_data->set;
-    case Kind::StringList:
-        return m_data->strings;
-    default:
-        m_data->outputs.push_back(std::make_unique<Output>(untouched()));
-        return m_data->outputs.back()->data();
-    }
+    static std::map<const Function *, void (*)()> addresses;
+    auto &address = addresses[&m_function];
+    if (!address)
+        address = reinterpret_cast<void (*)()>(dlsym(RTLD_DEFAULT, m_function.name));
+    return m_answer = m_function.call(address, m_arguments);
 }
 
-void Call::setNull(int position)
+std::string Call::answer() const
 {
-    if (isCallback(m_entryPoint.parameters[position].kind))
-        m_arguments[position] = static_cast<void (*)()>(nullptr);
-    else
-        m_arguments[position] = static_cast<void *>(nullptr);
-}
-
-void Call::setEmpty(int position)
-{
-    switch (m_entryPoint.parameters[position].kind) {
-    case Kind::Text:
-        m_arguments[position] = static_cast<void *>(m_data->empty);
-        break;
-    case Kind::Set:
-        m_arguments[position] = static_cast<void *>(m_data->emptySet);
-        break;
-    case Kind::StringList:
-        m_arguments[position] = static_cast<void *>(m_data->noStrings);
-        break;
-    case Kind::Positions:
-        m_data->positions[0] = 0;
-        break;
-    default:
-        break;
-    }
+    if (const auto *const number = std::get_if<int>(&m_answer))
+        return std::to_string(*number);
+    if (const auto *const boolean = std::get_if<ZelBoolean>(&m_answer))
+        return std::to_string(*boolean);
+    if (const auto *const text = std::get_if<char *>(&m_answer))
+        return *text ? *text : "null";
+    return {};
 }
 
 bool Call::areOutputsUntouched() const
 {
-    return std::all_of(m_data->outputs.begin(), m_data->outputs.end(),
-                       [](const auto &output) { return *output == untouched(); });
+    return m_outputs.number == 77 && m_outputs.index == 77 && m_outputs.count == 77 && m_outputs.flag == 77 &&
+           m_outputs.array == &m_outputs.count && m_outputs.set == reinterpret_cast<const IndexSet_s *>(&m_outputs);
+}
+
+std::vector<const Parameter *> identifiersOf(const Function &function)
+{
+    std::vector<const Parameter *> all;
+    for (const Parameter &parameter : function.parameters) {
+        if (parameter.kind == Kind::Id)
+            all.push_back(&parameter);
+    }
+    return all;
 }

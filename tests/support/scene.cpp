@@ -3,55 +3,77 @@
 
 #include <zelgui/zelgui.h>
 
-QVector<SceneObject> makeEveryKind(int parent)
+#include <algorithm>
+#include <cstring>
+
+using orvane::interface::bit;
+
+namespace {
+
+/// A place of its own for each object of a scene.
+class Placing : public Harmless
 {
-    QVector<SceneObject> all;
-    const auto add = [&all](const char *kind, int id) {
-        all.append({kind, id});
+public:
+    Placing(const Function &function, int number)
+    {
+        for (const Parameter &parameter : function.parameters) {
+            const char *const name = parameter.name;
+            if (std::strcmp(name, "x") == 0)
+                identifiers[&parameter] = 100 + number % 3 * 1100;
+            else if (std::strcmp(name, "y") == 0)
+                identifiers[&parameter] = 100 + number / 3 * 400;
+            else if (std::strcmp(name, "width") == 0)
+                identifiers[&parameter] = function.created == ObjectType::Dialog ? 3500 : 1000;
+            else if (std::strcmp(name, "height") == 0)
+                identifiers[&parameter] = function.created == ObjectType::Dialog ? 3500 : 300;
+            else if (std::strcmp(name, "maximum") == 0)
+                identifiers[&parameter] = 9;
+        }
+    }
+};
+
+} // namespace
+
+std::vector<SceneObject> makeEveryKind(int parent)
+{
+    std::vector<SceneObject> all;
+    const auto find = [&all](ObjectTypes types) {
+        return std::find_if(all.begin(), all.end(), [types](const SceneObject &each) { return each.isOneOf(types); });
+    };
+    for (const Function &creator : functions()) {
+        if (creator.created == ObjectType::None)
+            continue;
+        const Parameter &container = creator.parameters.front();
+        const auto found = find(container.accepted);
+        Placing source(creator, int(all.size()));
+        source.identifiers[&container] = found == all.end() ? parent : found->id;
+        all.push_back({&creator, std::get<int>(Call(creator, source).run())});
+    }
+    const auto addOther = [&](ObjectType type, auto make, ObjectType container) {
+        const int id = make(find(bit(container))->id);
+        all.push_back({find(bit(type))->creator, id});
         return id;
     };
-    const auto ok = +[] {};
-    const int dialog = add("modal dialog", ZelGUIDialogCreateModal(parent, 3000, 2000, "Modal", ok, ok, ok, ok, ok));
-    add("modeless dialog", ZelGUIDialogCreateModeless(dialog, 3000, 2000, "Modeless", ok, ok, ok));
-
-    const unsigned char pixel[] = {255, 0, 0};
-    add("button", ZelGUIButtonAdd(dialog, 100, 100, 1000, 100, "Button", nullptr));
-    add("bitmap button", ZelGUIBitmapButtonAdd(dialog, 100, 300, 100, 100, 1, 1, pixel, 0, 0, 0, 0, nullptr));
-    add("bitmap toggle", ZelGUIBitmapToggleAdd(dialog, 300, 300, 100, 100, 1, 1, pixel, 0, 0, 0, 0, nullptr));
-    add("toggle", ZelGUIToggleAdd(dialog, 100, 500, 1000, 100, "Toggle", nullptr));
-    add("label", ZelGUILabelAdd(dialog, 100, 700, "Label"));
-    add("radio box", ZelGUIRadioBoxAdd(dialog, 100, 900, 1000, 300, "A", "B", "C", nullptr, nullptr, nullptr));
-    add("option menu", ZelGUIOptionMenuAdd(dialog, 100, 1300, 1000, 100, "A,B", nullptr));
-
-    ZelGUITextFieldSetString(add("text field", ZelGUITextFieldAdd(dialog, 1200, 100, 1000, 100, nullptr)), "7");
-    ZelGUITextFieldSetString(
-        add("spin text field", ZelGUISpinTextFieldAdd(dialog, 1200, 300, 1000, 100, nullptr, nullptr, nullptr)), "7");
-    ZelGUITextSetString(add("multi-line text", ZelGUITextAdd(dialog, 1200, 500, 1000, 300, 0, nullptr)), "A\nB");
-    for (const bool isMultiSelection : {false, true}) {
-        const int list = add(isMultiSelection ? "multi-selection list" : "list",
-                             ZelGUIListAdd(dialog, 1200, 900, 400, 300, isMultiSelection, nullptr));
-        for (const char *const item : {"A", "B", "C"})
-            ZelGUIListAppendItem(list, item);
-        ZelGUIListSetSelectedItem(list, 2);
+    const auto addList = [](int id) { return ZelGUIListAdd(id, 100, 3300, 1000, 200, 0, nullptr); };
+    const auto addButton = [](int id) { return ZelGUIButtonAdd(id, 100, 100, 300, 100, "On no page", nullptr); };
+    const auto addItem = [](int id) { return ZelGUIMenuAddItem(id, "Deleted", nullptr, nullptr); };
+    addOther(ObjectType::List, addList, ObjectType::Dialog);
+    addOther(ObjectType::FormPage, ZelGUIFormAddPage, ObjectType::Form);
+    addOther(ObjectType::Button, addButton, ObjectType::Form);
+    addOther(
+        ObjectType::TabPage, [](int id) { return ZelGUITabAddPage(id, "Two"); }, ObjectType::Tab);
+    addOther(
+        ObjectType::Menu, [](int id) { return ZelGUIMenuAdd(id, "Sub-menu"); }, ObjectType::Menu);
+    ZelGUIMenuDeleteItem(addOther(ObjectType::MenuItem, addItem, ObjectType::Menu));
+    // Each of these has an effect on the objects that it is for, and on no others.
+    for (const SceneObject &each : all) {
+        ZelGUITextFieldSetString(each.id, "7");
+        ZelGUITextSetString(each.id, "A\nB");
+        for (const char *const item : {"A", "B", "C"}) {
+            ZelGUIListAppendItem(each.id, item);
+            ZelGUIOptionMenuAppendItem(each.id, item);
+        }
+        ZelGUIListSetSelectedItem(each.id, 2);
     }
-    add("scale", ZelGUIScaleAdd(dialog, 1200, 1400, 1000, 100, 0, 9, 0, nullptr, nullptr));
-
-    const int form = add("form", ZelGUIFormAdd(dialog, 2300, 100, 600, 500));
-    ZelGUIFormAddPage(form);
-    add("form page", ZelGUIFormAddPage(form));
-    add("widget in a form, on no page", ZelGUIButtonAdd(form, 100, 100, 300, 100, "", nullptr));
-    const int tab = add("tab", ZelGUITabAdd(dialog, 2300, 900, 600, 500, nullptr, nullptr));
-    ZelGUITabAddPage(tab, "One");
-    add("tab page", ZelGUITabAddPage(tab, "Two"));
-    add("frame", ZelGUIFrameAdd(dialog, 50, 50, 1000, 500, "Frame"));
-    add("horizontal separator", ZelGUIHorzSeparatorAdd(dialog, 100, 1600, 1000));
-    add("vertical separator", ZelGUIVertSeparatorAdd(dialog, 1150, 100, 1000));
-
-    const int bar = add("menu bar", ZelGUIMenuBarAdd(dialog));
-    const int menu = add("menu", ZelGUIMenuAdd(bar, "Menu"));
-    add("sub-menu", ZelGUIMenuAdd(menu, "Sub-menu"));
-    add("menu item", ZelGUIMenuAddItem(menu, "Item", nullptr, nullptr));
-    add("menu toggle", ZelGUIMenuAddToggle(menu, "Toggle", nullptr, nullptr));
-    ZelGUIMenuDeleteItem(add("menu item, deleted", ZelGUIMenuAddItem(menu, "Deleted", nullptr, nullptr)));
     return all;
 }

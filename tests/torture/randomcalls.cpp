@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "calls.h"
 #include "host.h"
+#include "randomsource.h"
 #include "scenarios.h"
 #include "user.h"
 
@@ -10,7 +10,6 @@
 #include <QDialog>
 #include <QScopedValueRollback>
 
-#include <limits>
 #include <memory>
 
 namespace torture {
@@ -38,9 +37,6 @@ public:
 private:
     Random stream() { return Random(m_seed, std::uint64_t(progress().step), ++m_serial); }
     void callSomething(Random &random);
-    int chooseObject(const Call &call, Random &random) const;
-    int chooseWrong(const Call &call, Random &random) const;
-    void check(const Call &call, int id, bool hadGui, bool wasRight, long long answer, const Outputs &outputs);
     void disturb(Random &random);
     /// In it, event loops end, but not before the user has done something.
     std::unique_ptr<LoopEnder> makeEnder();
@@ -52,12 +48,11 @@ private:
     const std::uint64_t m_seed;
     const std::int64_t m_steps;
     std::uint64_t m_serial = 0;
-    Pool m_pool;
-    Model m_model;
+    Model m_model{[] { return !mainWindow().isNull(); }};
     User m_user;
     int m_callbackDepth = 0;
     bool m_isTextCallback = false;
-    const Call *m_silent = nullptr;
+    const Function *m_silent = nullptr;
 };
 
 RandomAddOn *addOn = nullptr;
@@ -105,72 +100,31 @@ int RandomAddOn::inCallback(bool isAboutText)
     return answer;
 }
 
-int RandomAddOn::chooseWrong(const Call &call, Random &random) const
-{
-    using Limits = std::numeric_limits<int>;
-    const int any = random.between(-3, m_model.size() + 3);
-    const int id = random.oneIn(4) ? random.of({Limits::min(), Limits::max(), -2}) : any;
-    return m_model.isAliveOf(id, call.accepts) || (id == -1 && call.takesMainWindow) ? -2 : id;
-}
-
-int RandomAddOn::chooseObject(const Call &call, Random &random) const
-{
-    const bool isFull = call.creates != kNoKinds && m_model.size() >= kMostObjects;
-    if (isFull || random.oneIn(4))
-        return chooseWrong(call, random);
-    if (call.takesMainWindow && random.oneIn(2))
-        return -1;
-    return m_model.anyOf(call.accepts, random);
-}
-
 void RandomAddOn::callSomething(Random &random)
 {
-    const auto isLaunch = [](const Call *chosen) { return qstrcmp(chosen->name, "ZelGUIDialogLaunch") == 0; };
-    const Call *call = &random.of(calls());
-    // Windows cost a thousand times what other calls do; and what creates has an end.
-    if ((isLaunch(call) && !random.oneIn(15)) || (call->creates && m_model.size() >= kMostObjects))
-        call = &random.of(calls());
-    const int id = chooseObject(*call, random);
-    const bool hadGui = mainWindow();
-    const bool wasRight = hadGui && (m_model.isAliveOf(id, call->accepts) || (id == -1 && call->takesMainWindow));
-    Outputs outputs;
-    const Draw draw{random, m_pool, kCallbacks, outputs};
-    const auto ender = isLaunch(call) && wasRight ? makeEnder() : nullptr;
-    const QScopedValueRollback<const Call *> silence(m_silent, call->isSilent ? call : nullptr);
-    const long long answer = call->call(id, draw);
-    ++progress().calls;
-    check(*call, id, hadGui, wasRight, answer, outputs);
-    outputs.release();
-}
-
-void RandomAddOn::check(const Call &call, int id, bool hadGui, bool wasRight, long long answer, const Outputs &outputs)
-{
-    const auto failWith = [&](const char *what) {
-        fail(std::string(call.name) + " of " + std::to_string(id) + " answers " + std::to_string(answer) + ": " + what);
+    const auto isLaunch = [](const Function *chosen) { return qstrcmp(chosen->name, "ZelGUIDialogLaunch") == 0; };
+    const auto isTooMuch = [this](const Function *chosen) {
+        return chosen->created != ObjectType::None && m_model.end() >= kMostObjects && mainWindow();
     };
-    if (!mainWindow() && hadGui)
-        m_model.destroy(-1);
-    if (!wasRight) {
-        if (answer != (hadGui || call.accepts == kNoKinds ? call.neutral : call.neutralWithoutGui))
-            failWith("not neutral");
-        if (!outputs.areUntouched())
-            failWith("an output argument is touched");
+    const Function *function = &random.of(functions());
+    // Windows cost a thousand times what other calls do; and what creates has an end.
+    if ((isLaunch(function) && !random.oneIn(15)) || isTooMuch(function))
+        function = &random.of(functions());
+    if (isTooMuch(function))
         return;
-    }
-    // What dies during the call may leave an object that is registered, and dead.
-    const bool isStillRight = mainWindow() && (id == -1 || m_model.isAlive(id));
-    if (call.creates != kNoKinds) {
-        if (answer == m_model.size())
-            m_model.add(call.creates, id);
-        else if (isStillRight || answer != call.neutral)
-            failWith("not the next identifier");
-    }
+    RandomSource source(random, m_model, kCallbacks);
+    Call call(*function, source);
+    const auto ender = isLaunch(function) ? makeEnder() : nullptr;
+    const QScopedValueRollback<const Function *> silence(m_silent, function->mayReport ? nullptr : function);
+    const std::string fault = m_model.faultOf(call, [&call] { call.run(); });
+    ++progress().calls;
+    if (!fault.empty())
+        fail(fault);
 }
 
 void RandomAddOn::destroyDialog(Random &random)
 {
-    static const Kinds kDialogs = calls().front().creates | calls()[1].creates;
-    const int id = m_model.anyOf(kDialogs, random);
+    const int id = RandomSource(random, m_model, kCallbacks).anyOf(orvane::interface::bit(ObjectType::Dialog));
     if (id < 0 || !mainWindow())
         return;
     auto *const dialog = mainWindow()->findChild<QDialog *>(QString::number(id));
@@ -214,7 +168,9 @@ void RandomAddOn::disturb(Random &random)
         const auto ender = makeEnder();
         QCoreApplication::processEvents();
     } else if (choice < 75) {
-        orvane::host::overrideDotsPerInch(anyDouble(random), anyDouble(random));
+        RandomSource source(random, m_model, kCallbacks);
+        const double horizontal = source.number();
+        orvane::host::overrideDotsPerInch(horizontal, source.number());
     } else if (choice < 80) {
         orvane::host::overrideDotsPerInch(96, 96);
     } else if (choice < 84) {
@@ -244,7 +200,7 @@ void RandomAddOn::compareWithToolkit()
 {
     if (!mainWindow())
         return;
-    std::vector<bool> isFound(std::size_t(m_model.size()));
+    std::vector<bool> isFound(std::size_t(m_model.end()));
     for (const QObject *const object : mainWindow()->findChildren<QObject *>()) {
         bool isNumber = false;
         const std::size_t id = object->objectName().toUInt(&isNumber);
@@ -253,7 +209,7 @@ void RandomAddOn::compareWithToolkit()
         if (isNumber)
             isFound[id] = true;
     }
-    for (int id = 0; id < m_model.size(); ++id) {
+    for (int id = 0; id < m_model.end(); ++id) {
         if (isFound[std::size_t(id)] != m_model.isAlive(id))
             fail("object " + std::to_string(id) + (isFound[std::size_t(id)] ? " is alive" : " is gone"));
     }
