@@ -2,13 +2,47 @@
 #include "support/rows.h"
 #include "support/zeltest.h"
 
+#include <QAccessible>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFontInfo>
+#include <QInputMethodEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 
 using namespace Callback;
+
+namespace {
+
+void compose(QPlainTextEdit &edit, const QString &preedit, const QString &text)
+{
+    QInputMethodEvent event(preedit, {});
+    event.setCommitString(text);
+    QApplication::sendEvent(&edit, &event);
+}
+
+void drop(const QPlainTextEdit &edit, const QPoint &place, const QMimeData &data)
+{
+    QWindow *const window = edit.window()->windowHandle();
+    const QPoint inWindow = edit.viewport()->mapTo(edit.window(), place);
+    QDragEnterEvent enter(inWindow, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window, &enter);
+    QDragMoveEvent move(inWindow, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window, &move);
+    QDropEvent drop(inWindow, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window, &drop);
+}
+
+void dropText(const QPlainTextEdit &edit, const QPoint &place, const QString &text)
+{
+    QMimeData data;
+    data.setText(text);
+    drop(edit, place, data);
+}
+
+} // namespace
 
 /// Text of several lines.
 class tst_MultiLineText : public ZelTest
@@ -18,10 +52,13 @@ class tst_MultiLineText : public ZelTest
 private Q_SLOTS:
     void comesBackAsPutIn_data();
     void comesBackAsPutIn();
+    void appending_data();
     void appending();
-    void userChanges();
-    void ownMenuStaysDuringTheReport_data();
-    void ownMenuStaysDuringTheReport();
+    void reports_data();
+    void reports();
+    void changesDuringTheReport();
+    void drops_data();
+    void drops();
     void readOnly();
     void wrappingAndFont();
     void tooSmallForScrollBars_data();
@@ -53,80 +90,189 @@ void tst_MultiLineText::comesBackAsPutIn()
     QCOMPARE(log(), QStringList());
 }
 
+void tst_MultiLineText::appending_data()
+{
+    const Rows<int, QByteArray> row("wrapping", "text");
+    row("lines", -1, QByteArray("line\n").repeated(50));
+    row("a long line", -1, QByteArray("words ").repeated(500));
+    row("a long line between words", 1, QByteArray("words ").repeated(500));
+    row("a long line, not wrapped", 0, QByteArray("words ").repeated(500));
+}
+
 void tst_MultiLineText::appending()
 {
-    const int id = ZelGUITextAdd(createModal(), 100, 100, 2000, 500, 1, reportText<Text>);
+    QFETCH(int, wrapping);
+    QFETCH(QByteArray, text);
+    const int dialog = createModeless();
+    const int id = ZelGUITextAdd(dialog, 100, 100, 1500, 300, 1, reportText<Text>);
     auto *const edit = object<QPlainTextEdit>(id);
+    if (wrapping >= 0)
+        ZelGUITextAllowWordWrap(id, static_cast<ZelBoolean>(wrapping));
     ZelGUITextSetString(id, "a");
-    edit->selectAll();
-    ZelGUITextAppendString(id, "b\n");
-    ZelGUITextAppendString(id, "\xC3\xA9");
-    QCOMPARE(taken(ZelGUITextGetString(id)), QByteArray("ab\n\xC3\xA9"));
-    QVERIFY(!edit->textCursor().hasSelection());
-    QVERIFY(edit->textCursor().atEnd());
-    QCOMPARE(log(), QStringList());
-}
-
-void tst_MultiLineText::userChanges()
-{
-    const int id = ZelGUITextAdd(launchModeless(), 100, 100, 2000, 500, 0, reportText<Text>);
-    ZelGUITextSetString(id, "x\xC2\xA0");
-    auto *const edit = shown<QPlainTextEdit>(id);
-    // Ignored: there is nothing to take back.
-    answer(Text) = 0;
-    QTest::keyClick(edit, Qt::Key_A);
-    QTest::keyClick(edit, Qt::Key_Delete);
-    QCOMPARE(log(), QStringList({QString::fromUtf8("Text ax\xC2\xA0"), QString::fromUtf8("Text a\xC2\xA0")}));
-}
-
-void tst_MultiLineText::ownMenuStaysDuringTheReport_data()
-{
-    const Rows<bool, bool> row("isInside", "isAround");
-    row("alone", false, false);
-    row("inside another's report", true, false);
-    row("around another's report", false, true);
-}
-
-/// The toolkit goes on with the menu in which the user has chosen, though it is to be deleted.
-void tst_MultiLineText::ownMenuStaysDuringTheReport()
-{
-    QFETCH(bool, isInside);
-    QFETCH(bool, isAround);
-    const int dialog = launchModeless();
-    auto *const edit = shown<QPlainTextEdit>(ZelGUITextAdd(dialog, 100, 100, 2000, 500, 0, reportText<Text>));
-    auto *const other = shown<QPlainTextEdit>(ZelGUITextAdd(dialog, 100, 700, 2000, 500, 0, reportText<OtherText>));
-    QTest::keyClick(edit, Qt::Key_A);
-    QPointer<QMenu> menu;
-    bool isMenuThere = false;
-    const auto processEvents = [] {
+    // Before the text is first shown, while it is, while it is not, and as it is scrolled.
+    for (const bool isVisible : {false, true, false, true}) {
+        if (isVisible)
+            ZelGUIDialogLaunch(dialog);
+        const QByteArray old = taken(ZelGUITextGetString(id));
+        edit->verticalScrollBar()->setValue(0);
+        edit->selectAll();
+        ZelGUITextAppendString(id, "b\n");
+        ZelGUITextAppendString(id, text.constData());
+        QVERIFY(!edit->textCursor().hasSelection());
+        QVERIFY(edit->textCursor().atEnd());
+        QCOMPARE(taken(ZelGUITextGetString(id)), old + "b\n" + text);
+        if (!isVisible)
+            ZelGUIDialogLaunch(dialog);
+        QVERIFY(edit->viewport()->rect().contains(edit->cursorRect()));
         QCoreApplication::processEvents();
-        QCoreApplication::processEvents();
-    };
-    action(Text) = [&] {
-        if (isAround)
-            QTest::keyClick(other, Qt::Key_B);
-        processEvents();
-        isMenuThere = menu;
-    };
-    const auto chooseUndo = [&] {
-        QContextMenuEvent ask(QContextMenuEvent::Keyboard, QPoint(2, 2), edit->mapToGlobal(QPoint(2, 2)));
-        QApplication::sendEvent(edit->viewport(), &ask);
-        menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        QVERIFY(menu);
-        const QPoint undo = menu->actionGeometry(menu->actions().first()).center();
-        QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {}, undo);
-    };
-    log().clear();
-    if (isInside) {
-        action(OtherText) = chooseUndo;
-        QTest::keyClick(other, Qt::Key_B);
-    } else {
-        action(OtherText) = processEvents;
-        chooseUndo();
+        QVERIFY(edit->viewport()->rect().contains(edit->cursorRect()));
+        ZelGUIDialogDrop(dialog);
     }
-    QVERIFY(log().contains(QStringLiteral("Text ")));
-    QVERIFY(isMenuThere);
-    QTRY_VERIFY(!menu);
+    QCOMPARE(log().filter(QStringLiteral("Text")), QStringList());
+}
+
+/// Ways of a user's to change a text, "one two" with "two" selected, as a rule to "one X".
+struct Way
+{
+    std::function<void(QPlainTextEdit &)> change;
+    QByteArray text = "one X";
+};
+Q_DECLARE_METATYPE(Way)
+
+void tst_MultiLineText::reports_data()
+{
+    const Rows<Way> row("way");
+    row("key", {[](QPlainTextEdit &edit) { QTest::keyClicks(&edit, QStringLiteral("X")); }});
+    row("Delete", {[](QPlainTextEdit &edit) { QTest::keyClick(&edit, Qt::Key_Delete); }, "one "});
+    row("undone", {[](QPlainTextEdit &edit) { QTest::keyClick(&edit, Qt::Key_Z, Qt::ControlModifier); }, ""});
+    row("undone in its menu",
+        {[](QPlainTextEdit &edit) {
+             QContextMenuEvent ask(QContextMenuEvent::Keyboard, {2, 2}, edit.mapToGlobal(QPoint(2, 2)));
+             QApplication::sendEvent(edit.viewport(), &ask);
+             auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+             const QPoint undo = menu->actionGeometry(menu->actions().first()).center();
+             QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {}, undo);
+         },
+         ""});
+    row("pasted", {[](QPlainTextEdit &edit) {
+            QApplication::clipboard()->setText(QStringLiteral("X"));
+            QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+        }});
+    row("pasted by a host", {[](QPlainTextEdit &edit) {
+            QApplication::clipboard()->setText(QStringLiteral("X"));
+            edit.paste();
+        }});
+    row("composed", {[](QPlainTextEdit &edit) { compose(edit, {}, QStringLiteral("X")); }});
+    row("Delete while composing", {[](QPlainTextEdit &edit) {
+                                       const auto deed = std::exchange(action(Text), nullptr);
+                                       edit.moveCursor(QTextCursor::Start);
+                                       compose(edit, QStringLiteral("preedit"), {});
+                                       log().clear();
+                                       action(Text) = deed;
+                                       QTest::keyClick(&edit, Qt::Key_Delete);
+                                   },
+                                   "ne two"});
+    row("dropped", {[](QPlainTextEdit &edit) { dropText(edit, {1, 1}, QStringLiteral("X")); }, "Xone two"});
+    row("dropped low", {[](QPlainTextEdit &edit) {
+                            dropText(edit, edit.viewport()->rect().bottomRight(), QStringLiteral("X").repeated(500));
+                        },
+                        "one two" + QByteArray("X").repeated(500)});
+    const auto access = [](QPlainTextEdit &edit) {
+        return QAccessible::queryAccessibleInterface(&edit)->editableTextInterface();
+    };
+    row("inserted by assistive technology",
+        {[=](QPlainTextEdit &edit) { access(edit)->insertText(7, QStringLiteral("X")); }, "one twoX"});
+    row("replaced by assistive technology",
+        {[=](QPlainTextEdit &edit) { access(edit)->replaceText(4, 7, QStringLiteral("X")); }});
+    row("set by assistive technology", {[](QPlainTextEdit &edit) {
+                                            QAccessible::queryAccessibleInterface(&edit)->setText(QAccessible::Value,
+                                                                                                  QStringLiteral("X"));
+                                        },
+                                        "X"});
+}
+
+// Once for each event, and when the toolkit is done with it: an add-on may do to the text what it likes.
+void tst_MultiLineText::reports()
+{
+    QFETCH(Way, way);
+    const int dialog = launchModeless();
+    const int id = ZelGUITextAdd(dialog, 100, 100, 1500, 300, 0, reportText<Text>);
+    auto *const edit = shown<QPlainTextEdit>(id);
+    const std::function<void()> deeds[] = {
+        [] {},
+        [=] { ZelGUITextSetString(id, "new\ntext\nof\nfour lines"); },
+        [=] { ZelGUITextSetString(id, ""); },
+        [=] { ZelGUITextAppendString(id, "\nmore\nand more"); },
+        [=] { ZelGUISetVisibility(id, 0); },
+        [=] { ZelGUISetSensitivity(id, 0); },
+        [] { QCoreApplication::processEvents(); },
+        [=] { ZelGUIDialogDrop(dialog); },
+    };
+    for (const auto &deed : deeds) {
+        edit->setEnabled(true);
+        edit->show();
+        ZelGUITextSetString(id, "");
+        edit->setFocus();
+        QTest::keyClicks(edit, QStringLiteral("one two"));
+        edit->moveCursor(QTextCursor::PreviousWord, QTextCursor::KeepAnchor);
+        log().clear();
+        action(Text) = deed;
+        way.change(*edit);
+        QCoreApplication::processEvents();
+        action(Text) = nullptr;
+        QCOMPARE(log(), QStringList("Text " + QString::fromUtf8(way.text)));
+    }
+}
+
+// What is typed while the report runs is reported as well, but not from inside it.
+void tst_MultiLineText::changesDuringTheReport()
+{
+    const int id = ZelGUITextAdd(launchModeless(), 100, 100, 1500, 300, 0, reportText<Text>);
+    auto *const edit = shown<QPlainTextEdit>(id);
+    action(Text) = [=] {
+        QTest::keyClicks(edit, QStringLiteral("bc").mid(0, int(3 - taken(ZelGUITextGetString(id)).size())));
+        edit->selectAll();
+        QCoreApplication::processEvents();
+        log() << QStringLiteral("over");
+    };
+    QTest::keyClick(edit, Qt::Key_A);
+    QTRY_COMPARE(log(), QStringList({"Text a", "over", "Text abc", "over"}));
+}
+
+void tst_MultiLineText::drops_data()
+{
+    const Rows<QByteArray, QByteArray> row("text", "dropped");
+    const QByteArray lines = "one\ntwo\nthree\nfour\nfive\nsix";
+    const QByteArray longLine = QByteArray("long line ").repeated(60);
+    row("lines into nothing", "", lines);
+    row("a long line into nothing", "", longLine);
+    row("lines into lines", lines, lines);
+    row("a long line into lines", lines, longLine);
+    row("a long line into a long line", longLine, longLine);
+    row("lines into a long line", longLine, lines);
+    row("nothing", lines, "");
+}
+
+// The toolkit would look at lines that are not laid out.
+void tst_MultiLineText::drops()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QByteArray, dropped);
+    const int id = ZelGUITextAdd(launchModeless(), 100, 100, 1000, 300, 0, nullptr);
+    auto *const edit = shown<QPlainTextEdit>(id);
+    for (const auto end : {QTextCursor::Start, QTextCursor::End}) {
+        for (int height = 1; height < edit->viewport()->height(); height += 5) {
+            ZelGUITextSetString(id, text.constData());
+            edit->moveCursor(end);
+            const QPoint place(height % 90, height);
+            const int position = edit->cursorForPosition(place).position();
+            dropText(*edit, place, QString::fromUtf8(dropped));
+            QCOMPARE(taken(ZelGUITextGetString(id)), QByteArray(text).insert(position, dropped));
+            QVERIFY(edit->viewport()->rect().intersects(edit->cursorRect()));
+            edit->undo();
+            QCOMPARE(taken(ZelGUITextGetString(id)), text);
+        }
+    }
 }
 
 void tst_MultiLineText::readOnly()
@@ -160,12 +306,13 @@ void tst_MultiLineText::wrappingAndFont()
 
 void tst_MultiLineText::tooSmallForScrollBars_data()
 {
-    const Rows<QSize> row("size");
-    row("nothing", {1, 1});
-    row("narrow", {100, 2000});
-    row("flat", {4000, 50});
-    row("barely room", {200, 100});
-    row("small", {400, 200});
+    const Rows<QSize, bool> row("size", "hasBar");
+    row("nothing", {1, 1}, false);
+    row("narrow", {100, 2000}, false);
+    row("flat", {4000, 50}, true);
+    row("barely room", {200, 100}, false);
+    row("small", {400, 200}, true);
+    row("two lines", {2000, 200}, true);
 }
 
 // Showing a scroll bar leaves no room for the text, which hides the scroll bar, which makes room.
@@ -182,6 +329,7 @@ void tst_MultiLineText::tooSmallForScrollBars()
     for (int pass = 0; pass < 50; ++pass)
         QApplication::processEvents();
     QVERIFY2(changes < 30, qPrintable(QString::number(changes)));
+    QTEST(edit->verticalScrollBar()->isVisible(), "hasBar");
 }
 
 ZELTEST_MAIN(tst_MultiLineText)

@@ -16,13 +16,14 @@ namespace {
 /// What add-ons and hosts call from static destructors and functions given to atexit(). The main window is still there.
 void requireNeutral()
 {
-    for (const EntryPoint &entryPoint : entryPoints()) {
+    for (const Function &function : functions()) {
         for (int id = -1; id < 12; ++id) {
-            Call call(entryPoint);
-            for (const int identifier : entryPoint.identifiers())
-                call.setNumber(identifier, id);
-            if (call.run() != entryPoint.withoutGui || !call.areOutputsUntouched()) {
-                std::fprintf(stderr, "%s is not neutral for %d\n", entryPoint.name, id);
+            Harmless source;
+            for (const Parameter *const identifier : identifiersOf(function))
+                source.identifiers[identifier] = id;
+            Call call(function, source);
+            if (!(call.run() == function.withoutGui) || !call.areOutputsUntouched()) {
+                std::fprintf(stderr, "%s is not neutral for %d\n", function.name, id);
                 _exit(1);
             }
         }
@@ -40,7 +41,6 @@ void leaveProcess()
 int main(int argc, char **argv)
 {
     const bool isInCallback = argc > 1 && QByteArray(argv[1]) == "exit";
-    entryPoints();
     std::atexit(requireNeutral);
     auto *const application = new QApplication(argc, argv);
     new QMainWindow;

@@ -3,11 +3,9 @@
 
 #include <zvsdkbase/zelutil.h>
 
-#include <QAbstractScrollArea>
 #include <QDialog>
 #include <QFontMetrics>
 #include <QLabel>
-#include <QScrollBar>
 #include <QWidget>
 
 #include <algorithm>
@@ -99,16 +97,6 @@ void limitWindow(QWidget &window)
 QSize limitedHint(const QSize &hint)
 {
     return hint.boundedTo(QSize(kLargestSize, kLargestSize));
-}
-
-void allowBarsByRoom(QAbstractScrollArea &area)
-{
-    const int bars = area.verticalScrollBar()->sizeHint().width() + area.horizontalScrollBar()->sizeHint().height();
-    const QSize room = area.maximumSize() - QSize(bars, bars);
-    const bool hasRoom = room.width() > 2 * area.frameWidth() && room.height() > 2 * area.frameWidth();
-    const Qt::ScrollBarPolicy policy = hasRoom ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
-    area.setVerticalScrollBarPolicy(policy);
-    area.setHorizontalScrollBarPolicy(policy);
 }
 
 } // namespace orvane::zelgui

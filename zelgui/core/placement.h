@@ -2,7 +2,6 @@
 #ifndef ZELGUI_CORE_PLACEMENT_H
 #define ZELGUI_CORE_PLACEMENT_H
 
-class QAbstractScrollArea;
 class QDialog;
 class QLabel;
 class QSize;
@@ -24,12 +23,6 @@ void limitWindow(QWidget &window);
 
 /// A size hint that a long text has made, cut at the largest size. For what a style paints into memory as a whole.
 QSize limitedHint(const QSize &hint);
-
-/// Turns the scroll bars off where a widget's fixed size leaves no room for them, else on as needed: the toolkit would
-/// show and hide them for ever. For the events QEvent::Polish, before the widget is first shown, and
-/// QEvent::StyleChange, when the widget has handled them: not before does it know what style sheets make of it and its
-/// bars.
-void allowBarsByRoom(QAbstractScrollArea &area);
 
 } // namespace orvane::zelgui
 

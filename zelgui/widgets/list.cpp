@@ -233,10 +233,7 @@ void ZelGUIList::keyboardSearch(const QString &search)
 bool ZelGUIList::event(QEvent *event)
 {
     settleSelection();
-    const bool isHandled = QListWidget::event(event);
-    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
-        allowBarsByRoom(*this);
-    return isHandled;
+    return QListWidget::event(event);
 }
 
 bool ZelGUIList::viewportEvent(QEvent *event)

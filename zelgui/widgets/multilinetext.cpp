@@ -2,13 +2,16 @@
 #include "widgets/multilinetext.h"
 
 #include "core/callback.h"
-#include "core/endedpopups.h"
 #include "core/entrypoint.h"
 #include "core/placement.h"
 #include "core/text.h"
 
 #include <QEvent>
+#include <QMimeData>
+#include <QScrollBar>
 #include <QTextDocument>
+
+#include <utility>
 
 namespace orvane::zelgui {
 
@@ -40,12 +43,56 @@ ZelGUIText::ZelGUIText(QWidget *parent, int x, int y, int width, int height, boo
     setReadOnly(readOnly);
 }
 
+/// Lets the toolkit handle an event of the text, then does what had to wait until it is done.
+template <typename Handle>
+bool ZelGUIText::handle(Handle &&byToolkit)
+{
+    const QPointer<ZelGUIText> guard(this);
+    ++m_eventsInProgress;
+    const bool isHandled = byToolkit();
+    if (!guard || --m_eventsInProgress > 0)
+        return isHandled;
+    if (std::exchange(m_isCursorToBeSeen, false))
+        ensureCursorVisible();
+    reportIfChanged();
+    return isHandled;
+}
+
 bool ZelGUIText::event(QEvent *event)
 {
-    const bool isHandled = QPlainTextEdit::event(event);
-    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
-        allowBarsByRoom(*this);
-    return isHandled;
+    return handle([=] {
+        const bool isHandled = QPlainTextEdit::event(event);
+        if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
+            allowBarsByWidth();
+        return isHandled;
+    });
+}
+
+/// Wrapped text that is narrower than its vertical bar would show and hide the bar for ever. What style sheets make of
+/// the text and its bars is known only now, so this follows each change of style.
+void ZelGUIText::allowBarsByWidth()
+{
+    const int room = maximumWidth() - verticalScrollBar()->sizeHint().width() - 2 * frameWidth();
+    const Qt::ScrollBarPolicy policy = room > 0 ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
+    setVerticalScrollBarPolicy(policy);
+    setHorizontalScrollBarPolicy(policy);
+}
+
+bool ZelGUIText::viewportEvent(QEvent *event)
+{
+    return handle([=] { return QPlainTextEdit::viewportEvent(event); });
+}
+
+/// The toolkit's own would look at once where the cursor is now. But the lines are laid out only after a drop, and the
+/// toolkit doesn't survive the look at a line that isn't.
+void ZelGUIText::insertFromMimeData(const QMimeData *source)
+{
+    if (isReadOnly())
+        return;
+    insertPlainText(source->text());
+    m_isCursorToBeSeen = m_eventsInProgress > 0;
+    if (!m_isCursorToBeSeen)
+        ensureCursorVisible();
 }
 
 void ZelGUIText::onTextChanged()
@@ -53,9 +100,35 @@ void ZelGUIText::onTextChanged()
     // The whole text is gathered only for who wants to hear of it.
     if (!m_callback || ZelGUIWidgetRepository::instance()->callbacksSuppressed())
         return;
-    // The change may have been chosen in the text's own menu.
-    const EndedPopups endedPopups;
+    if (m_eventsInProgress > 0)
+        m_isChanged = true;
+    else
+        postReport();
+}
+
+void ZelGUIText::postReport()
+{
+    if (std::exchange(m_isReportPosted, true))
+        return;
+    // Comes as an event of the text's own, which ends with the report.
+    const auto markChanged = [this] { m_isChanged = std::exchange(m_isReportPosted, false) || m_isChanged; };
+    QMetaObject::invokeMethod(this, markChanged, Qt::QueuedConnection);
+}
+
+void ZelGUIText::reportIfChanged()
+{
+    if (m_isReporting || !std::exchange(m_isChanged, false))
+        return;
+    m_isReportPosted = false;
+    m_isReporting = true;
+    const QPointer<ZelGUIText> guard(this);
     askWhetherAccepted(this, m_callback, textOf(*this));
+    if (!guard)
+        return;
+    m_isReporting = false;
+    // The callback has waited for events, and the user has typed meanwhile.
+    if (m_isChanged)
+        postReport();
 }
 
 } // namespace orvane::zelgui
@@ -87,6 +160,7 @@ void ZelGUITextAppendString(int textId, const char *text)
         const CallbackSuppressor suppressor;
         edit.moveCursor(QTextCursor::End);
         edit.insertPlainText(fromUtf8(text));
+        edit.ensureCursorVisible();
     });
 }
 
