@@ -2,7 +2,11 @@
 // Dialogs of many manners: each fills itself with one colour, by which its picture is recognised.
 #include <zvsdkbase/zelutil.h>
 
+#include <QAbstractButton>
+#include <QCloseEvent>
 #include <QDialog>
+#include <QDialogButtonBox>
+#include <QMessageBox>
 #include <QTimer>
 
 extern "C" void ZelAddOnInit(void);
@@ -20,6 +24,39 @@ public:
     }
 };
 
+/// Closes through one button only; a wrong one brings up a message.
+class OneWayOut : public Colored
+{
+public:
+    OneWayOut(QDialogButtonBox::StandardButtons buttons, QDialogButtonBox::StandardButton way) : Colored(Qt::cyan)
+    {
+        auto *box = new QDialogButtonBox(buttons, this);
+        QObject::connect(box, &QDialogButtonBox::clicked, this, [this, box, way](QAbstractButton *button) {
+            if (box->standardButton(button) == way)
+                accept();
+            else
+                ZelUtilDialogErrMsg("Not this way");
+        });
+    }
+
+protected:
+    void closeEvent(QCloseEvent *event) override { event->ignore(); }
+};
+
+/// Asks a question, in an event loop within its close event.
+class Asking : public Colored
+{
+public:
+    using Colored::Colored;
+
+protected:
+    void closeEvent(QCloseEvent *event) override
+    {
+        QMessageBox::question(this, QStringLiteral("Question"), QStringLiteral("Really?"));
+        event->accept();
+    }
+};
+
 void showModeless(Qt::GlobalColor color)
 {
     auto *dialog = new Colored(color);
@@ -27,22 +64,7 @@ void showModeless(Qt::GlobalColor color)
     dialog->show();
 }
 
-void modal()
-{
-    Colored(Qt::red).exec();
-}
-
-void modeless()
-{
-    showModeless(Qt::green);
-}
-
-void late()
-{
-    QTimer::singleShot(0, [] { showModeless(Qt::blue); });
-}
-
-void complaining()
+void complain()
 {
     Colored dialog(Qt::yellow);
     QTimer::singleShot(0, &dialog, [] { ZelUtilDialogErrMsg("First"); });
@@ -54,9 +76,15 @@ void complaining()
 
 void ZelAddOnInit(void)
 {
-    ZelUtilAddOnRegister("Modal", "Returns when its dialog was closed", modal);
-    ZelUtilAddOnRegister("Modeless", "Returns at once", modeless);
-    ZelUtilAddOnRegister("Late", "Shows its dialog after it has returned", late);
-    ZelUtilAddOnRegister("Complaining: a/b", "Opens error messages on its dialog", complaining);
-    ZelUtilAddOnRegister("Modal", "Is called like another one", modeless);
+    static const auto okOrCancel = QDialogButtonBox::Ok | QDialogButtonBox::Cancel;
+    const auto add = [](const char *name, void (*launch)()) { ZelUtilAddOnRegister(name, "", launch); };
+    add("Modal", [] { Colored(Qt::red).exec(); });
+    add("Modeless", [] { showModeless(Qt::green); });
+    add("Late", [] { QTimer::singleShot(0, [] { showModeless(Qt::blue); }); });
+    add("Complaining: a/b", complain);
+    add("Modal", [] { showModeless(Qt::green); });
+    add("OK only", [] { OneWayOut(okOrCancel, QDialogButtonBox::Ok).exec(); });
+    add("Cancel only", [] { OneWayOut(okOrCancel, QDialogButtonBox::Cancel).exec(); });
+    add("Other only", [] { OneWayOut(QDialogButtonBox::Discard, QDialogButtonBox::Discard).exec(); });
+    add("Asking", [] { Asking(Qt::magenta).exec(); });
 }
