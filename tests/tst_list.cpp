@@ -137,8 +137,7 @@ private Q_SLOTS:
     void userSelectsOne();
     void scrolling();
     void capacity();
-    void smallerThanScrollBars_data();
-    void smallerThanScrollBars();
+    void smallSizes();
     void changedItemsBehindTheUser_data();
     void changedItemsBehindTheUser();
     void handedOutSelection();
@@ -510,34 +509,23 @@ void tst_List::capacity()
     QCOMPARE(ZelGUIListGetCapacity(flat), object<QListWidget>(flat)->height());
 }
 
-void tst_List::smallerThanScrollBars_data()
+/// The bars come and go with the room for them, but not for ever.
+void tst_List::smallSizes()
 {
-    const Rows<int, QString, QString> row("size", "styleSheet", "styleWithRoom");
-    row("smaller than any", 10, "", "");
-    row("smaller than those of a style sheet", 500, "QScrollBar:vertical { width: 500px }",
-        "QScrollBar:vertical { width: 5px }");
-}
-
-/// The toolkit would show and hide the bars for ever.
-void tst_List::smallerThanScrollBars()
-{
-    QFETCH(int, size);
-    QFETCH(QString, styleSheet);
-    QFETCH(QString, styleWithRoom);
     const int dialog = launchModeless();
-    object<QDialog>(dialog)->setStyleSheet(styleSheet);
-    const int id = ZelGUIListAdd(dialog, 100, 100, size, size, 1, reportList<List>);
-    for (int i = 0; i < 20; ++i)
-        ZelGUIListAppendItem(id, "A rather long item");
-    const auto *const list = shown<QListWidget>(id);
-    QTest::qWait(1);
-    QVERIFY(!list->verticalScrollBar()->isVisible());
-    QVERIFY(!list->horizontalScrollBar()->isVisible());
-    ZelGUIListSetSelectedItem(id, 20);
-    QCOMPARE(selectionOf(id), Positions({20}));
-    object<QDialog>(dialog)->setStyleSheet(styleWithRoom);
-    QTest::qWait(1);
-    QCOMPARE(list->verticalScrollBar()->isVisible(), !styleWithRoom.isEmpty());
+    for (const int size : {10, 30, 100, 200, 400}) {
+        const int id = ZelGUIListAdd(dialog, 100, 100, 5 * size, size, 1, nullptr);
+        for (int i = 0; i < 20; ++i)
+            ZelGUIListAppendItem(id, "An item");
+        const auto *const list = shown<QListWidget>(id);
+        int changes = 0;
+        for (QScrollBar *const bar : {list->verticalScrollBar(), list->horizontalScrollBar()})
+            connect(bar, &QScrollBar::rangeChanged, this, [&changes] { ++changes; });
+        for (int pass = 0; pass < 50; ++pass)
+            QCoreApplication::processEvents();
+        QVERIFY2(changes < 30, qPrintable(QString::number(changes)));
+        QVERIFY(list->verticalScrollBar()->isVisible());
+    }
 }
 
 void tst_List::changedItemsBehindTheUser_data()

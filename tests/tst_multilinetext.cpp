@@ -23,23 +23,21 @@ void compose(QPlainTextEdit &edit, const QString &preedit, const QString &text)
     QApplication::sendEvent(&edit, &event);
 }
 
-void drop(const QPlainTextEdit &edit, const QPoint &place, const QMimeData &data)
+/// The answer is the position in the text where the drop shows that it would put something: moving there may scroll.
+int dropText(const QPlainTextEdit &edit, const QPoint &place, const QString &text)
 {
+    QMimeData data;
+    data.setText(text);
     QWindow *const window = edit.window()->windowHandle();
     const QPoint inWindow = edit.viewport()->mapTo(edit.window(), place);
     QDragEnterEvent enter(inWindow, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window, &enter);
     QDragMoveEvent move(inWindow, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window, &move);
+    const int position = edit.cursorForPosition(place).position();
     QDropEvent drop(inWindow, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window, &drop);
-}
-
-void dropText(const QPlainTextEdit &edit, const QPoint &place, const QString &text)
-{
-    QMimeData data;
-    data.setText(text);
-    drop(edit, place, data);
+    return position;
 }
 
 } // namespace
@@ -123,7 +121,6 @@ void tst_MultiLineText::appending()
         QCOMPARE(taken(ZelGUITextGetString(id)), old + "b\n" + text);
         if (!isVisible)
             ZelGUIDialogLaunch(dialog);
-        QVERIFY(edit->viewport()->rect().contains(edit->cursorRect()));
         QCoreApplication::processEvents();
         QVERIFY(edit->viewport()->rect().contains(edit->cursorRect()));
         ZelGUIDialogDrop(dialog);
@@ -261,12 +258,13 @@ void tst_MultiLineText::drops()
     const int id = ZelGUITextAdd(launchModeless(), 100, 100, 1000, 300, 0, nullptr);
     auto *const edit = shown<QPlainTextEdit>(id);
     for (const auto end : {QTextCursor::Start, QTextCursor::End}) {
-        for (int height = 1; height < edit->viewport()->height(); height += 5) {
+        // In the middle of lines: at their edges, a pixel that is rounded decides.
+        const int line = edit->fontMetrics().height();
+        for (int height = line * 2 / 3; height < edit->viewport()->height(); height += line) {
             ZelGUITextSetString(id, text.constData());
             edit->moveCursor(end);
             const QPoint place(height % 90, height);
-            const int position = edit->cursorForPosition(place).position();
-            dropText(*edit, place, QString::fromUtf8(dropped));
+            const int position = dropText(*edit, place, QString::fromUtf8(dropped));
             QCOMPARE(taken(ZelGUITextGetString(id)), QByteArray(text).insert(position, dropped));
             QVERIFY(edit->viewport()->rect().intersects(edit->cursorRect()));
             edit->undo();

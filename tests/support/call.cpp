@@ -141,7 +141,8 @@ Call::~Call()
 
 const Value &Call::run()
 {
-    static std::map<const Function *, void (*)()> addresses;
+    // Never deleted: calls are made while the process ends, too.
+    static auto &addresses = *new std::map<const Function *, void (*)()>;
     auto &address = addresses[&m_function];
     if (!address)
         address = reinterpret_cast<void (*)()>(dlsym(RTLD_DEFAULT, m_function.name));

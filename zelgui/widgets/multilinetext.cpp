@@ -52,8 +52,11 @@ bool ZelGUIText::handle(Handle &&byToolkit)
     const bool isHandled = byToolkit();
     if (!guard || --m_eventsInProgress > 0)
         return isHandled;
-    if (std::exchange(m_isCursorToBeSeen, false))
+    if (isVisible() && std::exchange(m_isCursorToBeSeen, false)) {
         ensureCursorVisible();
+        // Scroll bars may come or go by it, and the lines are laid out anew.
+        QMetaObject::invokeMethod(this, &ZelGUIText::ensureCursorVisible, Qt::QueuedConnection);
+    }
     reportIfChanged();
     return isHandled;
 }
@@ -90,7 +93,13 @@ void ZelGUIText::insertFromMimeData(const QMimeData *source)
     if (isReadOnly())
         return;
     insertPlainText(source->text());
-    m_isCursorToBeSeen = m_eventsInProgress > 0;
+    showCursor();
+}
+
+/// Lines are laid out only when the text is visible, and not yet inside a drop.
+void ZelGUIText::showCursor()
+{
+    m_isCursorToBeSeen = m_eventsInProgress > 0 || !isVisible();
     if (!m_isCursorToBeSeen)
         ensureCursorVisible();
 }
@@ -156,11 +165,11 @@ void ZelGUITextSetString(int textId, const char *text)
 
 void ZelGUITextAppendString(int textId, const char *text)
 {
-    withWidget<QPlainTextEdit>(textId, [text](QPlainTextEdit &edit) {
+    withWidget<ZelGUIText>(textId, [text](ZelGUIText &edit) {
         const CallbackSuppressor suppressor;
         edit.moveCursor(QTextCursor::End);
         edit.insertPlainText(fromUtf8(text));
-        edit.ensureCursorVisible();
+        edit.showCursor();
     });
 }
 

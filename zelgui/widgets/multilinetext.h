@@ -21,6 +21,9 @@ public:
     /// Position and size are in font units.
     ZelGUIText(QWidget *parent, int x, int y, int width, int height, bool readOnly, ZelGUITextCallback callback);
 
+    /// Scrolls to the cursor, now or when the text is shown.
+    void showCursor();
+
 protected:
     bool event(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
