@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "addonloader.h"
 
+#include "files.h"
+
 #include <QFileInfo>
 #include <QLibrary>
 
 QString loadAddOn(const QString &file)
 {
-    const QFileInfo info(file);
+    const QFileInfo info(fromStart(file));
     if (!info.exists())
         return QStringLiteral("%1: no such file").arg(file);
     if (!info.isFile())

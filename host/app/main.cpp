@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "accessiblenames.h"
 #include "exitcodes.h"
+#include "files.h"
 #include "messages.h"
 #include "modes/modes.h"
 #include "options.h"
@@ -74,6 +75,7 @@ int main(int argc, char **argv)
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
+    rememberStartDirectory();
     QCoreApplication::setApplicationName(QStringLiteral("zelhost"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZELHOST_VERSION));
 

@@ -26,8 +26,16 @@ void handleMessage(QtMsgType type, const QMessageLogContext &context, const QStr
 
 void complain(const QString &message)
 {
-    // Reasons that come from the system may have several lines.
-    const QString line = message.trimmed().replace(QLatin1Char('\n'), QLatin1Char(' '));
+    // Reasons that come from the system may have several lines. Names and texts of add-ons may hold anything, also what
+    // a terminal would obey.
+    QString line;
+    const QString text = message.trimmed().replace(QLatin1Char('\n'), QLatin1Char(' '));
+    for (const QChar character : text) {
+        if (character.category() == QChar::Other_Control)
+            line += QStringLiteral("\\x%1").arg(character.unicode(), 2, 16, QLatin1Char('0'));
+        else
+            line += character;
+    }
     std::fprintf(stderr, "zelhost: %s\n", line.toLocal8Bit().constData());
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "picturefolder.h"
 
+#include "files.h"
 #include "messages.h"
 
 #include <QFileInfo>
@@ -13,9 +14,10 @@ bool PictureFolder::prepare() const
 QString PictureFolder::save(const QPixmap &picture, const QString &name)
 {
     QString file = m_directory.absoluteFilePath(fileFor(name));
-    if (picture.save(file, "PNG"))
+    const QString failure = writePicture(file, picture);
+    if (failure.isEmpty())
         return file;
-    complain(QStringLiteral("%1: cannot be written").arg(file));
+    complain(QStringLiteral("%1: %2").arg(file, failure));
     return {};
 }
 

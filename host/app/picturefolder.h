@@ -2,6 +2,8 @@
 #ifndef ZELHOST_PICTUREFOLDER_H
 #define ZELHOST_PICTUREFOLDER_H
 
+#include "files.h"
+
 #include <QDir>
 #include <QPixmap>
 #include <QSet>
@@ -11,7 +13,7 @@
 class PictureFolder
 {
 public:
-    explicit PictureFolder(const QString &path) : m_directory(path) {}
+    explicit PictureFolder(const QString &path) : m_directory(fromStart(path)) {}
 
     /// Makes the directory if it isn't there; false if nothing can be written to it.
     bool prepare() const;

@@ -4,6 +4,7 @@
 #include "addonloader.h"
 #include "interfaceloader.h"
 #include "messages.h"
+#include "watchdog.h"
 
 #include <QApplication>
 #include <QStyleFactory>
@@ -61,8 +62,18 @@ bool openSession(const Options &options, Session &session)
         session.window = std::make_unique<HostWindow>();
     orvane::host::requestObservation({options.trace, options.strict});
     QString failure = loadInterface(options.trace || options.strict);
-    for (int i = 0; failure.isEmpty() && i < options.addOnFiles.size(); ++i)
-        failure = loadAddOn(options.addOnFiles[i]);
+    std::optional<Watchdog> watchdog;
+    if (drawsDialogs(options) || !options.scriptFile.isEmpty())
+        watchdog.emplace(options.timeoutSeconds.value_or(DefaultTimeoutSeconds));
+    for (int i = 0; failure.isEmpty() && i < options.addOnFiles.size(); ++i) {
+        const QString &file = options.addOnFiles[i];
+        if (watchdog) {
+            watchdog->watch(file.toStdString());
+            watchdog->remark(": it is still in ZelAddOnInit");
+        }
+        failure = loadAddOn(file);
+    }
+    watchdog.reset();
     if (!failure.isEmpty()) {
         complain(failure);
         return false;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "report.h"
 
+#include "../files.h"
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -56,9 +58,7 @@ bool writeReport(const QString &file, const std::vector<Look> &looks)
     QJsonArray array;
     for (const Look &look : looks)
         array.append(toJson(look));
-    const QByteArray text = QJsonDocument(array).toJson();
-    QFile output(file);
-    return output.open(QIODevice::WriteOnly) && output.write(text) == text.size() && output.flush();
+    return writeFile(file, QJsonDocument(array).toJson()).isEmpty();
 }
 
 bool readReport(const QString &file, std::vector<Look> &looks)

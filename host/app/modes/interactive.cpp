@@ -37,5 +37,6 @@ int runInteractively(const Options &options, const Session &session)
     // A modal dialog needs the event loop around it.
     QTimer::singleShot(0, session.window.get(),
                        [session = &session, recorder = recorder.get()] { launchChosen(*session, recorder); });
-    return QApplication::exec();
+    const int exitCode = QApplication::exec();
+    return recorder && recorder->hasFailed() ? Failure : exitCode;
 }

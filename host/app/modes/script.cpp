@@ -2,6 +2,7 @@
 #include "modes.h"
 
 #include "../exitcodes.h"
+#include "../files.h"
 #include "../messages.h"
 #include "../script/language.h"
 #include "../script/player.h"
@@ -11,7 +12,7 @@
 
 int playScript(const Options &options, const Session &session)
 {
-    QFile file(options.scriptFile);
+    QFile file(fromStart(options.scriptFile));
     if (!file.open(QIODevice::ReadOnly)) {
         complain(QStringLiteral("--script %1: %2").arg(options.scriptFile, file.errorString()));
         return Failure;
@@ -34,5 +35,6 @@ int playScript(const Options &options, const Session &session)
         stage.launched = [&recorder](const QString &name, int number) { recorder->noteLaunch(name, number); };
     Player player(options.scriptFile, std::move(steps), std::move(stage),
                   options.timeoutSeconds.value_or(DefaultTimeoutSeconds));
-    return player.run();
+    const int exitCode = player.run();
+    return exitCode == Success && recorder && recorder->hasFailed() ? Failure : exitCode;
 }

@@ -2,6 +2,7 @@
 #include "modes.h"
 
 #include "../exitcodes.h"
+#include "../files.h"
 #include "../looks/combinations.h"
 #include "../looks/contactsheet.h"
 #include "../messages.h"
@@ -9,7 +10,6 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QFile>
 #include <QMap>
 #include <QProcess>
 #include <QThread>
@@ -124,12 +124,10 @@ private:
 
 bool writeSheet(const QString &file, const std::vector<SweptCombination> &swept)
 {
-    const QByteArray html = contactSheet(swept).toUtf8();
-    QFile output(file);
-    if (output.open(QIODevice::WriteOnly) && output.write(html) == html.size() && output.flush())
-        return true;
-    complain(QStringLiteral("%1: cannot be written").arg(file));
-    return false;
+    const QString failure = writeFile(file, contactSheet(swept).toUtf8());
+    if (!failure.isEmpty())
+        complain(QStringLiteral("%1: %2").arg(file, failure));
+    return failure.isEmpty();
 }
 
 /// Returns how many there are.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What steps do with windows, buttons, menus and keys.
+#include "../files.h"
 #include "aim.h"
 #include "finder.h"
 #include "menus.h"
@@ -147,7 +148,8 @@ QString savePicture(Stage &stage, const Step &step)
     if (!window)
         return failure;
     const QString file = step.words[0].text;
-    return window->grab().save(file, "PNG") ? QString() : QStringLiteral("%1 cannot be written").arg(quoted(file));
+    const QString reason = writePicture(file, window->grab());
+    return reason.isEmpty() ? QString() : QStringLiteral("%1 cannot be written: %2").arg(quoted(file), reason);
 }
 
 } // namespace

@@ -36,7 +36,8 @@ public:
     ~Recorder() override;
 
     /// False if the file can't be written.
-    bool start() const { return m_transcript.write(); }
+    bool start() { return m_transcript.write(); }
+    bool hasFailed() const { return m_transcript.hasFailed(); }
     /// To be told before an entry is launched, unless that is done from the menu; `number` counts those of this name.
     void noteLaunch(const QString &name, int number);
 

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "transcript.h"
 
+#include "../files.h"
+#include "../messages.h"
 #include "windows.h"
 #include "words.h"
 
-#include <QFile>
-
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -18,13 +19,13 @@ void forget(std::vector<QPointer<QWidget>> &windows, const QWidget *window)
 
 } // namespace
 
-bool Transcript::write() const
+bool Transcript::write()
 {
-    QFile file(m_file);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return false;
     const QByteArray text = m_lines.join(QLatin1Char('\n')).toUtf8();
-    return file.write(m_lines.isEmpty() ? text : text + '\n') >= 0;
+    const QString failure = writeFile(m_file, m_lines.isEmpty() ? text : text + '\n');
+    if (!failure.isEmpty() && !std::exchange(m_hasFailed, true))
+        complain(QStringLiteral("--record %1: %2").arg(m_file, failure));
+    return failure.isEmpty();
 }
 
 void Transcript::addLaunch(const QString &name, int number, bool isOnlyOne)

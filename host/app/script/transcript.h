@@ -16,7 +16,9 @@ public:
     explicit Transcript(const QString &file) : m_file(file) {}
 
     /// False if the file can't be written.
-    bool write() const;
+    bool write();
+    /// Whether a step is missing in the file; somebody has been told then.
+    bool hasFailed() const { return m_hasFailed; }
 
     void addLaunch(const QString &name, int number, bool isOnlyOne);
     /// Adds a step of a dialog, with what has to come before it: that the dialog was expected, or which one is meant.
@@ -41,6 +43,7 @@ private:
     QWidget *top() const;
 
     const QString m_file;
+    bool m_hasFailed = false;
     QStringList m_lines;
     std::vector<QPointer<QWidget>> m_expected;
     /// As they will lie upon each other when the script is played.
