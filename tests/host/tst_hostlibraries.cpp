@@ -266,16 +266,17 @@ void TestHostLibraries::stringListsKeepCopies()
 {
     StringList_s *handle = ZelUtilStringListAlloc();
     const std::size_t empty = unreleased().at(0).bytes;
-    char text[] = "first";
-    QCOMPARE(ZelUtilStringListAppendString(handle, text), ZelBoolean(1));
-    QVERIFY(unreleased().at(0).bytes >= empty + sizeof text);
+    std::string text(1000, 'a');
+    const std::string first = text;
+    QCOMPARE(ZelUtilStringListAppendString(handle, text.c_str()), ZelBoolean(1));
+    QVERIFY(unreleased().at(0).bytes > empty + text.size());
     text[0] = 'X';
     QCOMPARE(ZelUtilStringListAppendString(handle, nullptr), ZelBoolean(1));
     ZelUtilStringListAppendString(handle, "third");
     const orvane::toolbox::StringList list(handle);
     QCOMPARE(ZelUtilStringListGetCount(handle), LgIndex(3));
     QCOMPARE(list.size(), 3);
-    QCOMPARE(list.get(1), std::string("first"));
+    QCOMPARE(list.get(1), first);
     QCOMPARE(list.get(2), std::string());
     QCOMPARE(list.get(3), std::string("third"));
     for (const int position : {0, 4, -1, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
