@@ -2,9 +2,9 @@
 // A dialog with everything that scripts can drive; prints each call that it gets.
 #include <zelgui/zelgui.h>
 
-#include <cstdio>
 #include <cstring>
 #include <initializer_list>
+#include <iostream>
 
 extern "C" void ZelAddOnInit(void);
 
@@ -18,16 +18,10 @@ constexpr int Line = 140;
 int everything = ZELGUI_INVALID_ID;
 int layerSpin = ZELGUI_INVALID_ID;
 
-void say(const char *what)
+template <typename... Words>
+void say(Words... words)
 {
-    std::puts(what);
-    std::fflush(stdout);
-}
-
-void say(const char *what, const int *value)
-{
-    std::printf("%s %d\n", what, *value);
-    std::fflush(stdout);
+    (std::cout << ... << words) << std::endl;
 }
 
 void complain()
@@ -48,7 +42,7 @@ void addFew(int dialog)
 {
     ZelGUIButtonAdd(dialog, 100, 100, 1200, 130, "Complain", complain);
     ZelGUILabelAdd(dialog, 100, 300, "Mood:");
-    ZelGUIOptionMenuAdd(dialog, 700, 300, 1200, Line, "Calm, Bright", [](const int *value) { say("mood", value); });
+    ZelGUIOptionMenuAdd(dialog, 700, 300, 1200, Line, "Calm, Bright", [](const int *value) { say("mood ", *value); });
 }
 
 void openNested()
@@ -95,8 +89,7 @@ void launchSecond()
 
 int takeName(const char *text)
 {
-    std::printf("name %s\n", text);
-    std::fflush(stdout);
+    say("name ", text);
     if (std::strcmp(text, "bad") != 0)
         return 1;
     ZelUtilDialogErrMsg("This name is bad.");
@@ -105,24 +98,22 @@ int takeName(const char *text)
 
 int takeNotes(const char *text)
 {
-    std::printf("notes [%s]\n", text);
-    std::fflush(stdout);
+    say("notes [", text, "]");
     return 1;
 }
 
 int takeLayer(const char *text)
 {
-    std::printf("layer %s\n", text);
-    std::fflush(stdout);
+    say("layer ", text);
     return 1;
 }
 
 void selectZones(const int *positions)
 {
-    std::printf("zones");
+    std::cout << "zones";
     for (; *positions; ++positions)
-        std::printf(" %d", *positions);
-    say("");
+        std::cout << ' ' << *positions;
+    say();
 }
 
 void addFields()
@@ -143,14 +134,14 @@ void addFields()
     ZelGUITextFieldSetLgIndex(layerSpin, 7, 0);
     ZelGUILabelAdd(everything, Labels, 450, "Kind:");
     ZelGUIOptionMenuAdd(everything, Fields, 450, 2000, Line, "Euler, RK 4, RK 4, Adams",
-                        [](const int *value) { say("kind", value); });
+                        [](const int *value) { say("kind ", *value); });
     ZelGUILabelAdd(everything, Labels, 650, "Side:");
     ZelGUIRadioBoxAdd(everything, Fields, 650, 2000, 3 * Line, "Left", "Right", "Both", nullptr, nullptr,
-                      [](const int *value) { say("side", value); });
+                      [](const int *value) { say("side ", *value); });
     ZelGUILabelAdd(everything, Labels, 1250, "Opacity:");
     ZelGUIScaleAdd(
-        everything, Fields, 1250, 2000, Line, 0, 1000, 0, [](const int *value) { say("opacity", value); },
-        [](const int *value) { say("dragged from", value); });
+        everything, Fields, 1250, 2000, Line, 0, 1000, 0, [](const int *value) { say("opacity ", *value); },
+        [](const int *value) { say("dragged from ", *value); });
     ZelGUILabelAdd(everything, Labels, 1450, "Notes:");
     ZelGUITextSetString(ZelGUITextAdd(everything, Fields, 1450, 2000, 3 * Line, 0, takeNotes), "one\ntwo");
 }
@@ -158,7 +149,7 @@ void addFields()
 void addButtons()
 {
     const unsigned char pixel[3] = {200, 40, 40};
-    ZelGUIToggleAdd(everything, Right, 50, 1500, Line, "Show &grid", [](const int *value) { say("grid", value); });
+    ZelGUIToggleAdd(everything, Right, 50, 1500, Line, "Show &grid", [](const int *value) { say("grid ", *value); });
     ZelGUIButtonAdd(everything, Right, 250, 1500, Line, "Open &nested", openNested);
     ZelGUIButtonAdd(everything, Right, 450, 1500, Line, "&Complain", complain);
     ZelGUISetSensitivity(ZelGUIButtonAdd(everything, Right, 650, 1500, Line, "Frozen", nullptr), 0);
@@ -166,7 +157,7 @@ void addButtons()
     ZelGUIButtonAdd(everything, Right, 1050, 1500, Line, "Hang", hang);
     ZelGUIBitmapButtonAdd(everything, Right, 1250, 700, Line, 1, 1, pixel, 0, 0, 0, 0, [] { say("icon"); });
     ZelGUIBitmapToggleAdd(everything, Right + 800, 1250, 700, Line, 1, 1, pixel, 0, 0, 0, 0,
-                          [](const int *value) { say("icon toggle", value); });
+                          [](const int *value) { say("icon toggle ", *value); });
     ZelGUIToggleAdd(everything, Right, 1450, 700, Line, "Twin", nullptr);
     ZelGUIToggleAdd(everything, Right + 800, 1450, 700, Line, "Twin", nullptr);
 }
@@ -181,7 +172,7 @@ void addLists()
         ZelGUIListAppendItem(list, "Filler");
     ZelGUIListAppendItem(list, "Far field");
     ZelGUILabelAdd(everything, 6000, 800, "Solver:");
-    list = ZelGUIListAdd(everything, 6000, 950, 1500, 500, 0, [](const int *value) { say("solver", value); });
+    list = ZelGUIListAdd(everything, 6000, 950, 1500, 500, 0, [](const int *value) { say("solver ", *value); });
     ZelGUIListAppendItem(list, "Inviscid");
     ZelGUIListAppendItem(list, "Laminar");
 }
@@ -197,7 +188,7 @@ void addTabsAndMenus()
     const int bar = ZelGUIMenuBarAdd(everything);
     const int exporting = ZelGUIMenuAdd(ZelGUIMenuAdd(bar, "&File"), "&Export");
     ZelGUIMenuAddItem(exporting, "Image/&Table", nullptr, [] { say("exported"); });
-    ZelGUIMenuAddToggle(ZelGUIMenuAdd(bar, "&View"), "&Axes", nullptr, [](const int *value) { say("axes", value); });
+    ZelGUIMenuAddToggle(ZelGUIMenuAdd(bar, "&View"), "&Axes", nullptr, [](const int *value) { say("axes ", *value); });
 }
 
 void launchEverything()
