@@ -304,13 +304,14 @@ void tst_MultiLineText::wrappingAndFont()
 
 void tst_MultiLineText::tooSmallForScrollBars_data()
 {
-    const Rows<QSize, bool> row("size", "hasBar");
-    row("nothing", {1, 1}, false);
-    row("narrow", {100, 2000}, false);
-    row("flat", {4000, 50}, true);
-    row("barely room", {200, 100}, false);
-    row("small", {400, 200}, true);
-    row("two lines", {2000, 200}, true);
+    // Where the bar is as wide as the text, it is for the style to say: -1.
+    const Rows<QSize, int> row("size", "hasBar");
+    row("nothing", {1, 1}, 0);
+    row("narrow", {100, 2000}, 0);
+    row("flat", {4000, 50}, 1);
+    row("barely room", {200, 100}, -1);
+    row("small", {400, 200}, 1);
+    row("two lines", {2000, 200}, 1);
 }
 
 // Showing a scroll bar leaves no room for the text, which hides the scroll bar, which makes room.
@@ -327,7 +328,8 @@ void tst_MultiLineText::tooSmallForScrollBars()
     for (int pass = 0; pass < 50; ++pass)
         QApplication::processEvents();
     QVERIFY2(changes < 30, qPrintable(QString::number(changes)));
-    QTEST(edit->verticalScrollBar()->isVisible(), "hasBar");
+    QFETCH(int, hasBar);
+    QVERIFY(hasBar < 0 || edit->verticalScrollBar()->isVisible() == (hasBar == 1));
 }
 
 ZELTEST_MAIN(tst_MultiLineText)

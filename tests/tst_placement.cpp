@@ -109,7 +109,8 @@ void tst_Placement::largeContent()
     const int menu = ZelGUIMenuAdd(ZelGUIMenuBarAdd(m_dialog), "Menu");
     QVERIFY(ZelGUIButtonAdd(menu, 10000000, 10000000, 10000000, 10000000, "Far", nullptr) > 0);
     ZelGUISetVisibility(menu, 1);
-    QVERIFY(QRect(0, 0, 8192, 8192).contains(QRect(QPoint(), object<QWidget>(menu)->size())));
+    const QSize size = object<QWidget>(menu)->size();
+    QVERIFY(qint64{size.width()} * size.height() <= qint64{8192} * 8192);
     ZelGUISetVisibility(menu, 0);
 }
 

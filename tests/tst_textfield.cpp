@@ -40,6 +40,7 @@ private Q_SLOTS:
     void pastedNullCharacter();
     void validateDouble_data();
     void validateDouble();
+    void validateLgIndex();
     void tooLongNumber();
 
 private:
@@ -154,6 +155,16 @@ void tst_TextField::tooLongNumber()
     ZelGUITextFieldSetDouble(m_field, 12, QByteArray(32765, ' ') + "%.0f");
     ZelGUITextFieldSetDouble(m_field, 345, QByteArray(32765, ' ') + "%.0f");
     QCOMPARE(taken(ZelGUITextFieldGetString(m_field)).trimmed(), QByteArray("12"));
+}
+
+void tst_TextField::validateLgIndex()
+{
+    ZelGUITextFieldSetString(m_field, "5");
+    QCOMPARE(ZelGUITextFieldValidateLgIndex(m_field, "Steps", 5, 5, 0), ZelBoolean(1));
+    QCOMPARE(ZelGUITextFieldValidateLgIndex(m_field, "Steps", 6, 9, 0), ZelBoolean(0));
+    QCOMPARE(ZelGUITextFieldValidateLgIndex(m_field, "Steps", 1, 4, 0), ZelBoolean(0));
+    const QString outside = QStringLiteral("Invalid value for Steps. Expected a value between ");
+    QCOMPARE(messages, QStringList({outside + "6 and 9.", outside + "1 and 4."}));
 }
 
 ZELTEST_SPIN_MAIN(tst_TextField)

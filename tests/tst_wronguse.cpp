@@ -14,6 +14,9 @@ using orvane::interface::bit;
 // Called in place of the host's, which would wait for the user.
 extern "C" void ZelUtilDialogErrMsg(const char *) {}
 
+Q_DECLARE_METATYPE(const Function *)
+Q_DECLARE_METATYPE(const Parameter *)
+
 /// Every function with every kind of object and with identifiers of nothing in each identifier argument, and with null
 /// for each pointer.
 class tst_WrongUse : public ZelTest
