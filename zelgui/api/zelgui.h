@@ -15,9 +15,10 @@
  * 2. Units. Positions and sizes follow the font. A unit of height is one hundredth of the height of the widget's font,
  *    so a line of text is 100 high; a unit of width is 0.45 of that, times the ratio of the screen's horizontal to its
  *    vertical resolution, so an average character is about 100 wide. Pixels are rounded to the nearest, a half down,
- *    and never exceed 8192 for a size and 32767 for a position. A position counts from the parent's top left corner, and only if both
- *    x and y are greater than 0; else the widget stays in that corner. A width or height of 0 or less leaves that
- *    dimension to the toolkit. The sizes are fixed when the widget is made and do not follow later changes of the font.
+ *    and never exceed 8192 for a size and 32767 for a position. A position counts from the parent's top left corner,
+ *    and only if both x and y are greater than 0; else the widget stays in that corner. A width or height of 0 or
+ *    less leaves that dimension to the toolkit. The sizes are fixed when the widget is made and do not follow later
+ *    changes of the font.
  *
  * 3. Parents. A widget's parent is a dialog, or a page or frame inside one. It lives as long as its parent; there is
  *    no function to destroy it. A widget that is added to a dialog already visible stays hidden until
@@ -396,9 +397,9 @@ ZELGUI_API void ZelGUILabelSetText(int labelId, const char *text);
  * Shows a number in a label.
  *
  * @param format  printf format, Latin-1, with exactly one conversion, of kind e, f, g or a in either case, with any of
- *                the flags "-+ #0'", a width and precision of at most 1000 and without '*', such as "%.3f mm"; any other
- *                format changes nothing. Kind a prints as the toolkit has it, not as C has it. What
- *                lies exactly between two texts is rounded away from zero: 2.5 in "%.0f" is "3", where C writes "2"
+ *                the flags "-+ #0'", a width and precision of at most 1000 and without '*', such as "%.3f mm"; any
+ *                other format changes nothing. Kind a prints as the toolkit has it, not as C has it. What lies exactly
+ *                between two texts is rounded away from zero: 2.5 in "%.0f" is "3", where C writes "2"
  */
 ZELGUI_API void ZelGUILabelSetDouble(int labelId, double value, const char *format);
 
@@ -750,8 +751,8 @@ ZELGUI_API int ZelGUIFormAdd(int parentId, int x, int y, int width, int height);
 ZELGUI_API int ZelGUIFormAddPage(int formId);
 
 /**
- * Shows a page in place of the others of its form. An identifier that is not a form's page changes nothing. A field that
- * loses the focus with its page reports before the call returns.
+ * Shows a page in place of the others of its form. An identifier that is not a form's page changes nothing. A field
+ * that loses the focus with its page reports before the call returns.
  */
 ZELGUI_API void ZelGUIFormSetCurrentPage(int pageId);
 
