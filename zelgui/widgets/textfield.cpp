@@ -50,7 +50,7 @@ void ZelGUITextField::watchCorrection()
 
 void ZelGUITextField::editingFinished()
 {
-    // The callback may show a message, which takes the focus from the very field that it is about.
+    // By Return, or late: another report of this field may be running by now.
     if (m_isReporting || isFocusTakenBack || ZelGUIWidgetRepository::instance()->callbacksSuppressed())
         return;
     const QPointer<ZelGUITextField> guard(this);
@@ -79,8 +79,11 @@ bool ZelGUITextField::canHaveFocus() const
 
 bool ZelGUITextField::isLossToReport(const QFocusEvent &event) const
 {
+    // The callback may show a message, which takes the focus from the very field that it is about.
+    if (!m_hasFocusToLose || m_isReporting || isFocusTakenBack)
+        return false;
     // With its dialog, the field is simply gone; with a page, what was typed is still to be looked at.
-    if (!m_hasFocusToLose || window()->isHidden())
+    if (window()->isHidden())
         return false;
     const bool isPopup = event.reason() == Qt::PopupFocusReason;
     // A rejected text needs no second report when the focus is only lent: it will be back.
