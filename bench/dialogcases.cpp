@@ -9,6 +9,8 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
+#include <QVBoxLayout>
 
 namespace bench {
 
@@ -109,6 +111,50 @@ Case memory(const char *name, void (*addLibrary)(int dialog), void (*addBare)(QW
     return {name, {Goal::Difference, 150}, {0}, kWidgets, make, Meter::Heap, toolkitsLimit};
 }
 
+/// Labels that were added to a visible dialog with a menu bar, one after the other.
+Case showingUnderMenuBar()
+{
+    const auto make = [](int count) {
+        const auto dialog = std::make_shared<Dialog>(true);
+        ZelGUIMenuBarAdd(dialog->id());
+        const auto bare = std::make_shared<QDialog>(mainWindow());
+        auto *const layout = new QVBoxLayout(bare.get());
+        layout->setSizeConstraint(QLayout::SetNoConstraint);
+        layout->setMenuBar(new QMenuBar);
+        bare->show();
+        // Away from the mouse, below which the toolkit looks for the label each time.
+        object<QWidget>(dialog->id())->move(1000, 1000);
+        bare->move(1000, 1000);
+        const auto ids = std::make_shared<std::vector<int>>();
+        const auto labels = std::make_shared<std::vector<QLabel *>>();
+        for (int i = 0; i < count; ++i) {
+            ids->push_back(ZelGUILabelAdd(dialog->id(), 100, 100, "A label"));
+            addBareLabel(bare.get());
+            labels->push_back(static_cast<QLabel *>(bare->children().last()));
+        }
+        const auto hideAll = [=] {
+            for (const int id : *ids)
+                ZelGUISetVisibility(id, 0);
+            for (QLabel *const label : *labels)
+                label->hide();
+            settle();
+        };
+        const auto library = [dialog, ids] {
+            for (const int id : *ids)
+                ZelGUISetVisibility(id, 1);
+        };
+        const auto toolkit = [bare, labels] {
+            for (QLabel *const label : *labels) {
+                // As it does by itself where there is no menu bar.
+                label->adjustSize();
+                label->show();
+            }
+        };
+        return Comparison{{hideAll, library}, {hideAll, toolkit}};
+    };
+    return {"labels under a menu bar: show one by one", {Goal::Ratio, 1.30}, {1000}, 1, make};
+}
+
 } // namespace
 
 std::vector<Case> dialogCases()
@@ -131,6 +177,7 @@ std::vector<Case> dialogCases()
                               },
                               [life] { life->dialog.reset(); }};
               }),
+        showingUnderMenuBar(),
         memory("memory of a label", addLibraryLabel, addBareLabel, kNameLimit),
         memory("memory of a text field", addLibraryField, addBareField, kNameLimit),
         // The name, which tells the host the identifier, takes more than all the rest.

@@ -4,6 +4,7 @@
 #include <zelgui/zelgui.h>
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -13,6 +14,7 @@ namespace bench {
 
 namespace {
 
+constexpr int kKeys = 50;
 constexpr Goal kNoGoal = {Goal::None, 0};
 const char *const kLine = "A line of the report that an add-on writes, about eighty characters in length.\n";
 
@@ -133,12 +135,47 @@ Case readingSet()
     return {"text field: read a set", {Goal::Ratio, 1.10}, {1000, 2000, 5000}, 1, make};
 }
 
+/// A key in a text whose changes are reported, beside widgets that have nothing to do with it.
+Case reportedKey()
+{
+    const auto make = [](int others) {
+        const auto crowd = std::make_shared<QWidget>();
+        for (int i = 0; i < others; ++i)
+            new QWidget(crowd.get());
+        const auto text = std::make_shared<Text>(true);
+        const auto accept = [](const char *) { return 1; };
+        const int id = ZelGUITextAdd(text->dialog.id(), 100, 100, 4000, 1000, 0, accept);
+        auto *const reported = object<QPlainTextEdit>(id);
+        auto *const bare = new QPlainTextEdit(text->widget->window());
+        bare->setGeometry(reported->geometry());
+        bare->setFocusPolicy(Qt::StrongFocus);
+        QObject::connect(bare, &QPlainTextEdit::textChanged, bare,
+                         [bare, accept] { accept(bare->toPlainText().toUtf8().constData()); });
+        reported->show();
+        bare->show();
+        const auto side = [text, crowd](QPlainTextEdit *edit) {
+            return Side{[edit] {
+                            const QSignalBlocker silence(edit);
+                            edit->clear();
+                        },
+                        [text, crowd, edit] {
+                            QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
+                            for (int i = 0; i < kKeys; ++i)
+                                QApplication::sendEvent(edit, &key);
+                        }};
+        };
+        return Comparison{side(reported), side(bare)};
+    };
+    return {"multi-line text: reported key beside other widgets", {Goal::Ratio, 1.10}, {5000}, kKeys, make};
+}
+
 } // namespace
 
 std::vector<Case> textCases()
 {
     const std::vector<int> toTenMegabytes = {100000, 1000000, 10000000};
     return {
+        reportedKey(),
         textCase(
             "text: set", {Goal::Ratio, 1.05}, toTenMegabytes, false, false,
             [](Text &text, const QByteArray &lines) { ZelGUITextSetString(text.id, lines.constData()); },
