@@ -35,7 +35,7 @@ QString writeFile(const QString &file, const QByteArray &content)
     if (output.open(QIODevice::WriteOnly) && output.write(content) == content.size() && output.flush() &&
         output.commit())
         return {};
-    const QString reason = output.errorString();
+    QString reason = output.errorString();
     output.cancelWriting();
     return reason;
 }

@@ -216,7 +216,7 @@ void TestHostLibraries::setsHoldWhatWasAdded()
         std::set<LgIndex> members;
         for (LgIndex count = upTo(10); count > 0; --count) {
             const LgIndex first = start + upTo(20) - (start ? 0 : 2);
-            const LgIndex last = upTo(2) ? first : first + upTo(30) - 1;
+            const LgIndex last = upTo(2) ? first : first - 1 + upTo(30);
             const LgIndex step = last == first ? 1 : upTo(4);
             const bool isValid = first >= 1 && last >= first && step >= 1;
             const ZelBoolean isAdded =
