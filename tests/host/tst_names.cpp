@@ -116,7 +116,7 @@ void tst_Names::layouts_data()
     const QStringList blocks = QString::fromUtf8(file.readAll()).trimmed().split(QStringLiteral("\n\n"));
     for (const QString &block : blocks.mid(1)) {
         const QStringList lines = block.split(QStringLiteral("\n  "));
-        QTest::newRow(qPrintable(lines[0])) << lines.mid(1);
+        QTest::newRow(qPrintable(lines[0])) << QStringList(lines.mid(1));
     }
 }
 
